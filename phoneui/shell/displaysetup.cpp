@@ -1,0 +1,32 @@
+#include "displaysetup.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace DisplaySetup {
+
+void prepareEnvironment(const QString &platform)
+{
+    qputenv("QT_FONT_DPI", "72");
+    if (!platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", platform.toLocal8Bit());
+    else if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void prepareApplication()
+{
+    // Roboto Condensed is narrow enough for a 92 pixel soft key at 18 points; a Nanum face has the Hangul.
+    const QString phoneFamily = QStringLiteral("1V_02_GO_UI");
+    QFont::insertSubstitutions(phoneFamily, {"Roboto Condensed", "NanumBarunGothic", "NanumGothic"});
+    QFont font(phoneFamily, 20);
+    QApplication::setFont(font);
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setCursorFlashTime(0);
+    QApplication::setEffectEnabled(Qt::UI_General, false);
+}
+
+}

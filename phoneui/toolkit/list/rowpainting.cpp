@@ -1,0 +1,38 @@
+#include "rowpainting.h"
+
+#include <QPainter>
+
+namespace RowPainting {
+
+int centredTop(const QRect &rect, int height)
+{
+    return rect.top() + (rect.height() - height) / 2;
+}
+
+void drawCentred(QPainter *painter, const QRect &rect, int x, const QPixmap &picture)
+{
+    painter->drawPixmap(x, centredTop(rect, picture.height()), picture);
+}
+
+void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &text)
+{
+    painter->drawText(rect, flags, painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix)
+{
+    const auto slice = [&](const char *part) { return QPixmap(stem + QLatin1String(part) + suffix + ".png"); };
+    const QPixmap left = slice("_left");
+    const QPixmap middle = slice("_mid");
+    const QPixmap right = slice("_right");
+    const int rightEdge = rect.left() + rect.width() - right.width();
+
+    painter->drawPixmap(rect.topLeft(), left);
+    const QRect stretch(rect.left() + left.width(), rect.top(), rightEdge - rect.left() - left.width(),
+                        middle.height());
+    if (stretch.width() > 0)
+        painter->drawPixmap(stretch, middle, QRect(0, 0, 1, middle.height()));
+    painter->drawPixmap(rightEdge, rect.top(), right);
+}
+
+}

@@ -1,0 +1,28 @@
+#ifndef ROWPAINTING_H
+#define ROWPAINTING_H
+
+#include <QPixmap>
+#include <QRect>
+#include <QString>
+
+class QPainter;
+
+/// What rows, boxes and fields draw alike.
+namespace RowPainting {
+
+/// The top at which something of that height stands in the vertical middle; an odd pixel goes below.
+int centredTop(const QRect &rect, int height);
+
+/// Draws the picture with its left edge at x, in the vertical middle of the rectangle.
+void drawCentred(QPainter *painter, const QRect &rect, int x, const QPixmap &picture);
+
+/// Draws the text cut at its right end to the rectangle's width.
+void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &text);
+
+/// A plate of any width: the ends keep their width, the middle is stretched between them from one column.
+/// `stem` and `suffix` name the three pictures: "…/inputbox" and "_sel" read "…/inputbox_left_sel.png" and so on.
+void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix = QString());
+
+}
+
+#endif

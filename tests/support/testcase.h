@@ -1,0 +1,37 @@
+#ifndef TESTCASE_H
+#define TESTCASE_H
+
+#include <QObject>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTest>
+
+/// The base of every test class: a Qt warning that was not announced fails the test function in which it came, and
+/// so does an announced one that stayed away, or a window left open.
+///
+/// A class overrides `setUp` and `tearDown`, which run around each of its test functions.
+class TestCase : public QObject
+{
+    Q_OBJECT
+
+protected:
+    virtual void setUp() {}
+    virtual void tearDown() {}
+
+    /// Announces one warning whose text contains this pattern.
+    void expectWarning(const QString &pattern);
+
+private slots:
+    void init();
+    void cleanup();
+
+private:
+    static void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+    static TestCase *s_running;
+    QtMessageHandler m_formerHandler = nullptr;
+    QList<QRegularExpression> m_expected;
+    QStringList m_unexpected;
+};
+
+#endif
