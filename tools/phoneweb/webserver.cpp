@@ -23,8 +23,22 @@ static constexpr size_t LargestPost = 64 * 1024;
 static constexpr int ViewerLook = 1000;
 
 /// The page needs nothing from elsewhere, and nobody may frame it.
-static const char ContentPolicy[] = "default-src 'none'; script-src 'self'; style-src 'self'; connect-src 'self'; "
-                                    "base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
+static const char ContentPolicy[]
+    = "default-src 'none'; script-src 'self'; style-src 'self'; connect-src 'self'; img-src 'self'; "
+      "base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
+
+/// What the page consists of beside its frame.
+static const struct
+{
+    const char *name;
+    const char *type;
+} Files[] = {
+    {"icon.svg", "image/svg+xml"},
+    {"keyboard.js", "text/javascript; charset=utf-8"},
+    {"keys.js", "text/javascript; charset=utf-8"},
+    {"page.css", "text/css; charset=utf-8"},
+    {"page.js", "text/javascript; charset=utf-8"},
+};
 
 static QByteArray header(const httplib::Request &request, const char *name)
 {
@@ -109,12 +123,10 @@ void WebServer::setUp()
                              "text/plain");
         return httplib::Server::HandlerResponse::Handled;
     });
-    m_server->Get("/", [this](const Request &request, Response &response) { servePage(request, response); });
-    m_server->Get("/page.css",
-                  [this](const Request &, Response &response) { serveFile("page.css", "text/css", response); });
-    for (const char *script : {"page.js", "keyboard.js"}) {
-        m_server->Get(std::string("/") + script, [this, script](const Request &, Response &response) {
-            serveFile(script, "text/javascript", response);
+    m_server->Get("/", [this](const Request &, Response &response) { servePage(response); });
+    for (const auto &[name, type] : Files) {
+        m_server->Get(std::string("/") + name, [name = name, type = type](const Request &, Response &response) {
+            response.set_content(fileContents(name).toStdString(), type);
         });
     }
     m_server->Get("/events", [this](const Request &, Response &response) { serveEvents(response); });
@@ -158,18 +170,13 @@ bool WebServer::isAllowed(const httplib::Request &request) const
     return inAddress || inCookies;
 }
 
-void WebServer::servePage(const httplib::Request &, httplib::Response &response)
+void WebServer::servePage(httplib::Response &response) const
 {
     response.set_header("Set-Cookie", m_access->cookie().toStdString());
     QByteArray page = fileContents("index.html");
     // The page's script cannot read the cookie and must show the token with each post.
     page.replace("@TOKEN@", m_access->token());
     response.set_content(page.toStdString(), "text/html; charset=utf-8");
-}
-
-void WebServer::serveFile(const QString &name, const char *type, httplib::Response &response)
-{
-    response.set_content(fileContents(name).toStdString(), std::string(type) + "; charset=utf-8");
 }
 
 void WebServer::serveEvents(httplib::Response &response)

@@ -37,8 +37,7 @@ public:
 private:
     void setUp();
     bool isAllowed(const httplib::Request &request) const;
-    void servePage(const httplib::Request &request, httplib::Response &response);
-    void serveFile(const QString &name, const char *type, httplib::Response &response);
+    void servePage(httplib::Response &response) const;
     void serveEvents(httplib::Response &response);
     void serveKeys(const httplib::Request &request, httplib::Response &response);
 
