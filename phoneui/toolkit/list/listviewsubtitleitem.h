@@ -33,6 +33,8 @@ public:
     int useTextShadow() const { return m_useTextShadow; }
 
 private:
+    void drawPiece(QPainter *painter, const QRect &rect, int flags, const QString &text);
+
     QList<textClass *> m_subTitles;
     bool m_isGroupNameItem = false;
     bool m_subtitleAlignmentSet = false;
