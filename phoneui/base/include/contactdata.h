@@ -42,6 +42,9 @@ public:
     /// The addresses by position, 0 to EmailCount - 1.
     QString email(int slot) const;
 
+    /// The number as stores keep it and searches compare it: digits, "+", "*" and "#", nothing else.
+    static QString bareNumber(const QString &number);
+
     bool operator==(const ContactData &other) const;
     bool operator!=(const ContactData &other) const { return !(*this == other); }
 

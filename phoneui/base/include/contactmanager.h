@@ -53,7 +53,7 @@ public:
     /// Presence by buddy id.
     QHash<QString, buddyIdStatusType> getPresenceStatus() const;
 
-    /// Adds the contact under a new id, or with `modify` replaces the one with contact.id.
+    /// Adds the contact under a new id, or with `modify` replaces the one with contact.id. Returns that id.
     int saveContact(const ContactData &contact, bool modify);
     /// Adds all of them or none, each with its groups; a contact without groups goes to the built-in one.
     /// `progress` hears the number of contacts written so far. Returns how many were added.
@@ -73,8 +73,8 @@ public:
     /// The groups of a contact in the order in which they were saved.
     QList<int> getGroupIdsOfMember(int contactId) const;
     bool existGroupName(const QString &name) const;
-    /// Adds the group under a new id, or with `modify` replaces the one with group.id. The built-in group and
-    /// a name that another group has are refused.
+    /// Adds the group under a new id, or with `modify` replaces the one with group.id. Returns that id. The
+    /// built-in group and a name that another group has are refused.
     int saveGroup(const GroupData &group, bool modify);
     /// Removes the group. Memberships that the caller left in place keep its id, which is never given again.
     int deleteGroup(int groupId);
@@ -84,7 +84,10 @@ public:
     int deleteAllGroupMember();
 
 private:
+    bool write(const std::function<bool()> &work);
+
     QScopedPointer<ContactDatabase> m_database;
+    QString m_presencePath;
 };
 
 #endif

@@ -22,17 +22,38 @@ void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix)
 {
     const auto slice = [&](const char *part) { return QPixmap(stem + QLatin1String(part) + suffix + ".png"); };
-    const QPixmap left = slice("_left");
-    const QPixmap middle = slice("_mid");
-    const QPixmap right = slice("_right");
-    const int rightEdge = rect.left() + rect.width() - right.width();
+    drawSlices(painter, rect, slice("_left"), slice("_mid"), slice("_right"));
+}
 
-    painter->drawPixmap(rect.topLeft(), left);
+void drawSlices(QPainter *painter, const QRect &rect, const QPixmap &left, const QPixmap &middle,
+                const QPixmap &right)
+{
+    const int rightEdge = rect.left() + rect.width() - right.width();
     const QRect stretch(rect.left() + left.width(), rect.top(), rightEdge - rect.left() - left.width(),
                         middle.height());
+
+    painter->drawPixmap(rect.topLeft(), left);
     if (stretch.width() > 0)
         painter->drawPixmap(stretch, middle, QRect(0, 0, 1, middle.height()));
     painter->drawPixmap(rightEdge, rect.top(), right);
+}
+
+QPixmap inked(const QPixmap &picture, const QColor &ink)
+{
+    if (picture.isNull())
+        return picture;
+    QPixmap result = picture;
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(result.rect(), ink);
+    return result;
+}
+
+void setPointSize(QPainter *painter, int points)
+{
+    QFont font = painter->font();
+    font.setPointSize(points);
+    painter->setFont(font);
 }
 
 }

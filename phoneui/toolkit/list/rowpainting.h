@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QString>
 
+class QColor;
 class QPainter;
 
 /// What rows, boxes and fields draw alike.
@@ -22,6 +23,14 @@ void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &
 /// A plate of any width: the ends keep their width, the middle is stretched between them from one column.
 /// `stem` and `suffix` name the three pictures: "…/inputbox" and "_sel" read "…/inputbox_left_sel.png" and so on.
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix = QString());
+/// The same from pictures at hand.
+void drawSlices(QPainter *painter, const QRect &rect, const QPixmap &left, const QPixmap &middle,
+                const QPixmap &right);
+
+/// The picture's shape in one colour, for signs that follow the pen of their row.
+QPixmap inked(const QPixmap &picture, const QColor &ink);
+
+void setPointSize(QPainter *painter, int points);
 
 }
 

@@ -1,0 +1,224 @@
+#include "contactdatabase.h"
+
+#include "groupdata.h"
+
+#include <QSet>
+
+#define CONTACT_COLUMNS "id, name, picture, email1, email2, email3, memo, bell, buddy_id, extra"
+
+namespace {
+
+// "PhoC" in the file's header.
+constexpr int ApplicationId = 0x50686f43;
+
+const SqliteSchema &contactSchema()
+{
+    // Contact and group ids are never given twice: screens and messages hold on to them. Memberships know nothing
+    // of the groups table, because a group may go while members still name it.
+    static const SqliteSchema schema
+        = {ApplicationId,
+           {{"CREATE TABLE contacts (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT, picture TEXT, email1 TEXT,"
+             " email2 TEXT, email3 TEXT, memo TEXT, bell TEXT, buddy_id TEXT, extra TEXT)",
+             "CREATE TABLE numbers (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,"
+             " slot INTEGER NOT NULL CHECK (slot BETWEEN 1 AND 10),"
+             " kind INTEGER NOT NULL CHECK (kind BETWEEN 0 AND 4), number TEXT NOT NULL,"
+             " PRIMARY KEY (contact_id, slot)) WITHOUT ROWID",
+             "CREATE TABLE groups (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT NOT NULL UNIQUE, bell TEXT)",
+             "CREATE TABLE memberships (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,"
+             " position INTEGER NOT NULL, group_id INTEGER NOT NULL,"
+             " PRIMARY KEY (contact_id, position)) WITHOUT ROWID",
+             "CREATE INDEX contacts_by_name ON contacts (name)",
+             "CREATE INDEX numbers_by_number ON numbers (number, contact_id)",
+             "CREATE UNIQUE INDEX memberships_by_group ON memberships (group_id, contact_id)",
+             "INSERT INTO groups (id, name, bell) VALUES (1, 'Unsigned', '')"}},
+           {"SELECT " CONTACT_COLUMNS " FROM contacts", "SELECT contact_id, slot, kind, number FROM numbers",
+            "SELECT id, name, bell FROM groups", "SELECT contact_id, position, group_id FROM memberships"}};
+    return schema;
+}
+
+ContactData contactOfRow(const SqliteStatement &row)
+{
+    ContactData contact;
+    contact.id = row.number(0);
+    contact.name = row.text(1);
+    contact.picture = row.text(2);
+    contact.email1 = row.text(3);
+    contact.email2 = row.text(4);
+    contact.email3 = row.text(5);
+    contact.memo = row.text(6);
+    contact.bell = row.text(7);
+    contact.buddyId = row.text(8);
+    contact.extra = row.text(9);
+    return contact;
+}
+
+/// The values of CONTACT_COLUMNS after the id. A null text stays null.
+QVariantList valuesOf(const ContactData &contact)
+{
+    return {contact.name, contact.picture, contact.email1,  contact.email2, contact.email3,
+            contact.memo, contact.bell,    contact.buddyId, contact.extra};
+}
+
+}
+
+ContactDatabase::ContactDatabase(const QString &path, SqliteFile::Access access)
+    : m_file(path, contactSchema(), access)
+{
+}
+
+QList<ContactData> ContactDatabase::allContacts() const
+{
+    QList<ContactData> contacts;
+    SqliteStatement rows = m_file.statement("SELECT " CONTACT_COLUMNS " FROM contacts ORDER BY id");
+    SqliteStatement numbers
+        = m_file.statement("SELECT contact_id, slot, kind, number FROM numbers ORDER BY contact_id");
+    if (!rows.run() || !numbers.run())
+        return contacts;
+    // Both come in the order of the ids, so they are merged as they are read.
+    bool more = numbers.next();
+    while (rows.next()) {
+        ContactData contact = contactOfRow(rows);
+        while (more && numbers.number(0) < contact.id)
+            more = numbers.next();
+        for (; more && numbers.number(0) == contact.id; more = numbers.next())
+            contact.setNumber(numbers.number(1) - 1, numbers.text(3),
+                              static_cast<ContactData::Telnum_Type>(numbers.number(2)));
+        contacts.append(contact);
+    }
+    return contacts;
+}
+
+ContactData ContactDatabase::contact(int id) const
+{
+    SqliteStatement row = m_file.statement("SELECT " CONTACT_COLUMNS " FROM contacts WHERE id = ?");
+    if (!row.run({id}) || !row.next())
+        return ContactData();
+    ContactData contact = contactOfRow(row);
+    SqliteStatement numbers = m_file.statement("SELECT slot, kind, number FROM numbers WHERE contact_id = ?");
+    numbers.run({id});
+    while (numbers.next())
+        contact.setNumber(numbers.number(0) - 1, numbers.text(2),
+                          static_cast<ContactData::Telnum_Type>(numbers.number(1)));
+    return contact;
+}
+
+QVariant ContactDatabase::value(const char *sql, const QVariantList &values) const
+{
+    SqliteStatement statement = m_file.statement(sql);
+    return statement.run(values) && statement.next() ? statement.value(0) : QVariant();
+}
+
+QList<int> ContactDatabase::ids(const char *sql, int key) const
+{
+    QList<int> ids;
+    SqliteStatement statement = m_file.statement(sql);
+    statement.run({key});
+    while (statement.next())
+        ids.append(statement.number(0));
+    return ids;
+}
+
+QList<ContactData> ContactDatabase::search(const QString &word)
+{
+    if (word.isEmpty())
+        return allContacts();
+    refreshLines();
+    const QVector<int> found = m_lines.matches(word);
+    QList<ContactData> contacts;
+    // Beyond this share of all contacts one pass over them is faster than asking for each.
+    constexpr int Share = 16;
+    if (found.size() <= m_lines.size() / Share) {
+        for (const int id : found)
+            contacts.append(contact(id));
+        return contacts;
+    }
+    const QSet<int> wanted(found.begin(), found.end());
+    const QList<ContactData> all = allContacts();
+    for (const ContactData &candidate : all) {
+        if (wanted.contains(candidate.id))
+            contacts.append(candidate);
+    }
+    return contacts;
+}
+
+void ContactDatabase::refreshLines()
+{
+    if (!m_lines.needsReload(m_file.dataVersion()))
+        return;
+    m_lines.clear();
+    SqliteStatement names = m_file.statement("SELECT id, name FROM contacts ORDER BY id");
+    SqliteStatement numbers = m_file.statement("SELECT contact_id, number FROM numbers ORDER BY contact_id, slot");
+    if (!names.run() || !numbers.run())
+        return;
+    bool more = numbers.next();
+    while (names.next()) {
+        const int id = names.number(0);
+        QStringList own;
+        while (more && numbers.number(0) < id)
+            more = numbers.next();
+        for (; more && numbers.number(0) == id; more = numbers.next())
+            own.append(numbers.text(1));
+        m_lines.append(id, names.text(1), own);
+    }
+    m_lines.setLoaded(m_file.dataVersion());
+}
+
+int ContactDatabase::insert(const ContactData &contact)
+{
+    SqliteStatement statement = m_file.statement(
+        "INSERT INTO contacts (name, picture, email1, email2, email3, memo, bell, buddy_id, extra)"
+        " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
+    if (!statement.run(valuesOf(contact)))
+        return 0;
+    const int id = statement.lastId();
+    return insertNumbers(id, contact) ? id : 0;
+}
+
+bool ContactDatabase::update(const ContactData &contact)
+{
+    SqliteStatement statement = m_file.statement(
+        "UPDATE contacts SET name = ?, picture = ?, email1 = ?, email2 = ?, email3 = ?, memo = ?,"
+        " bell = ?, buddy_id = ?, extra = ? WHERE id = ?");
+    QVariantList values = valuesOf(contact);
+    values.append(contact.id);
+    return statement.run(values) && statement.rowsAffected() == 1
+        && m_file.statement("DELETE FROM numbers WHERE contact_id = ?").run({contact.id})
+        && insertNumbers(contact.id, contact);
+}
+
+bool ContactDatabase::insertNumbers(int contactId, const ContactData &contact)
+{
+    SqliteStatement statement
+        = m_file.statement("INSERT INTO numbers (contact_id, slot, kind, number) VALUES (?, ?, ?, ?)");
+    for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
+        const QString number = ContactData::bareNumber(contact.number(slot));
+        if (!number.isEmpty() && !statement.run({contactId, slot + 1, contact.numberType(slot), number}))
+            return false;
+    }
+    return true;
+}
+
+bool ContactDatabase::replaceMemberships(int contactId, const QList<int> &groupIds)
+{
+    if (!m_file.statement("DELETE FROM memberships WHERE contact_id = ?").run({contactId}))
+        return false;
+    QList<int> wanted = groupIds;
+    if (wanted.isEmpty())
+        wanted.append(GroupData::UnassignedId);
+    SqliteStatement statement
+        = m_file.statement("INSERT OR IGNORE INTO memberships (contact_id, position, group_id) VALUES (?, ?, ?)");
+    for (int position = 0; position < wanted.size(); ++position) {
+        if (!statement.run({contactId, position, wanted.at(position)}))
+            return false;
+    }
+    return true;
+}
+
+int ContactDatabase::groupIdByName(const QString &name)
+{
+    const int existing = value("SELECT id FROM groups WHERE name = ?", {name}).toInt();
+    if (existing != 0)
+        return existing;
+    SqliteStatement statement = m_file.statement("INSERT INTO groups (name, bell) VALUES (?, '')");
+    return statement.run({name}) ? statement.lastId() : 0;
+}

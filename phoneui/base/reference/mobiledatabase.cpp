@@ -1,0 +1,78 @@
+#include "mobiledatabase.h"
+
+#include "contactdatabase.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QSettings>
+
+MobileDatabase::MobileDatabase(const QString &folder) : m_folder(folder)
+{
+    reload();
+}
+
+void MobileDatabase::reload()
+{
+    const QString iniPath = m_folder + QStringLiteral("/wpsm.ini");
+    if (!QFile::exists(iniPath)) {
+        take(QString(), QString(), {});
+        return;
+    }
+    const QSettings ini(iniPath, QSettings::IniFormat);
+    const QString generation = ini.value(QStringLiteral("Device/Generation")).toString();
+    const int count = ini.value(QStringLiteral("Device/Count"), -1).toInt();
+    if (!generation.isEmpty() && generation == m_generation)
+        return;
+
+    // The two files are replaced one after the other; a pair that does not agree is a change under way or broken.
+    ContactDatabase database(m_folder + QStringLiteral("/contacts.db"), SqliteFile::ReadOnly);
+    if (!database.file().isOpen())
+        return;
+    QList<ContactData> contacts = database.allContacts();
+    if (generation.isEmpty() || contacts.size() != count
+        || database.value("SELECT generation FROM device").toString() != generation) {
+        qWarning() << "MobileDatabase: the files do not belong together in" << m_folder;
+        return;
+    }
+    for (ContactData &contact : contacts)
+        contact.type = ContactData::MobileContact;
+    take(ini.value(QStringLiteral("Device/Name")).toString(), generation, contacts);
+}
+
+void MobileDatabase::take(const QString &deviceName, const QString &generation, const QList<ContactData> &contacts)
+{
+    m_deviceName = deviceName;
+    m_generation = generation;
+    m_contacts = contacts;
+    m_positions.clear();
+    for (int i = 0; i < m_contacts.size(); ++i)
+        m_positions.insert(m_contacts.at(i).id, i);
+    m_lines.clear();
+}
+
+ContactData MobileDatabase::contact(int id) const
+{
+    return m_contacts.value(m_positions.value(id, -1));
+}
+
+QList<ContactData> MobileDatabase::search(const QString &word)
+{
+    if (word.isEmpty())
+        return m_contacts;
+    if (m_lines.needsReload(0)) {
+        for (const ContactData &contact : qAsConst(m_contacts)) {
+            QStringList numbers;
+            for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
+                if (!contact.number(slot).isEmpty())
+                    numbers.append(contact.number(slot));
+            }
+            m_lines.append(contact.id, contact.name, numbers);
+        }
+        m_lines.setLoaded(0);
+    }
+    QList<ContactData> found;
+    const QVector<int> ids = m_lines.matches(word);
+    for (const int id : ids)
+        found.append(contact(id));
+    return found;
+}

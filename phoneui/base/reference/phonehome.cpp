@@ -1,0 +1,106 @@
+#include "phonehome.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace {
+
+constexpr std::array<const char *, 7> Folders
+    = {"config", "data", "data/photos", "mobile", "ringtones", "ringtones/download", "run"};
+
+constexpr QFile::Permissions UserOnly = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions Everyone = UserOnly | QFile::ReadGroup | QFile::ReadOther;
+
+struct ConfigFile
+{
+    const char *path;
+    const char *content;
+    QFile::Permissions permissions;
+};
+
+const std::array<ConfigFile, 7> ConfigFiles = {{
+    {"config/list.ini", "[CONFIG]\nPBOOK_CONF=config/phonebook.conf\nPINFO_CONF=config/phone_info.conf\n",
+     Everyone},
+    {"config/system.conf",
+     "[System]\nCharset=utf-8\nType=0\n\n[Menu_Password]\nenable=false\n\n[Security]\nCallLock=0\n", Everyone},
+    {"config/sound.conf", "[Volume]\nRing=5\n", Everyone},
+    {"config/settings.conf", "[Settings]\n24HourTime=true\nDesign=0\nLanguage=en_US\n", Everyone},
+    {"config/ipc.conf", "[CM]\nPort=0\n\n[XCID]\nPort=0\n", Everyone},
+    {"config/phone_info.conf", "[Prov_Info]\nId=\nLoginMode=\n\n[Directory_svc]\nAddr=\nType=http\nPort=\nPath=\n",
+     Everyone},
+    {"config/secret.ini", "[Prov]\nPassword=\n", UserOnly},
+}};
+
+bool makeFile(const QString &path, const ConfigFile &config)
+{
+    QFile file(path);
+    if (file.exists())
+        return true;
+    // The rights come before the content.
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.setPermissions(config.permissions)
+        && file.write(config.content) >= 0 && file.flush();
+}
+
+}
+
+PhoneHome::PhoneHome(const QString &root) : m_root(QDir::cleanPath(QDir(root).absolutePath())) { }
+
+PhoneHome PhoneHome::locate(const QString &option)
+{
+    if (!option.isEmpty())
+        return PhoneHome(option);
+    const QString environment = qEnvironmentVariable("PHONE_HOME");
+    if (!environment.isEmpty())
+        return PhoneHome(environment);
+    return PhoneHome(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                     + QStringLiteral("/phoneui"));
+}
+
+QString PhoneHome::path(const QString &relative) const
+{
+    return m_root + QLatin1Char('/') + relative;
+}
+
+bool PhoneHome::create() const
+{
+    for (const char *folder : Folders) {
+        if (!QDir().mkpath(path(QLatin1String(folder)))) {
+            qWarning() << "PhoneHome: cannot make the folder" << path(QLatin1String(folder));
+            return false;
+        }
+    }
+    if (!QFile::setPermissions(runFolder(), UserOnly | QFile::ExeOwner)) {
+        qWarning() << "PhoneHome: cannot close the folder to others:" << runFolder();
+        return false;
+    }
+    for (const ConfigFile &config : ConfigFiles) {
+        const QString file = path(QLatin1String(config.path));
+        if (!makeFile(file, config)) {
+            qWarning() << "PhoneHome: cannot write" << file;
+            return false;
+        }
+    }
+    // Applications open this one as it stands in the list, so it is absolute and follows a home that was moved.
+    const QString key = QStringLiteral("COMMON/IPC_CONF");
+    const QString ipcConf = path(QStringLiteral("config/ipc.conf"));
+    QSettings list(configList(), QSettings::IniFormat);
+    if (list.value(key).toString() != ipcConf)
+        list.setValue(key, ipcConf);
+    list.sync();
+    if (list.status() != QSettings::NoError) {
+        qWarning() << "PhoneHome: cannot write" << configList();
+        return false;
+    }
+    return true;
+}
+
+void PhoneHome::enter() const
+{
+    qputenv("CONFIG_LIST", QFile::encodeName(configList()));
+    QDir::setSearchPaths(QStringLiteral("photo"), {photoFolder()});
+}

@@ -1,0 +1,3 @@
+#include "textclass.h"
+
+textClass::textClass(QString const &text) : m_text(text) { }
