@@ -190,7 +190,8 @@ void RowPicturesTest::picturesExist_data()
     add(QSize(24, 20), "widget/",
         {"softkey_ok", "softkey_ok_sel", "softkey_delete", "softkey_delete_sel", "softkey_cancel",
          "softkey_cancel_sel", "softkey_nextpage", "softkey_nextpage_sel"});
-    add(QSize(10, 10), "widget/",
+    // The frame asks its corners for their size.
+    add(QSize(), "widget/",
         {"focus_02_lefttop", "focus_02_lefttop_sel", "focus_02_lefbottom", "focus_02_lefbottom_sel",
          "focus_02_righttop", "focus_02_righttop_sel", "focus_02_rightbottom", "focus_02_rightbottom_sel"});
     add(QSize(6, 30), "widget/", {"inputbox_left", "inputbox_left_sel", "inputbox_right", "inputbox_right_sel"});
@@ -216,7 +217,10 @@ void RowPicturesTest::picturesExist_data()
 void RowPicturesTest::picturesExist()
 {
     QFETCH(QSize, size);
-    QCOMPARE(QImage(QString::fromLatin1(QTest::currentDataTag())).size(), size);
+    const QImage picture(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(!picture.isNull());
+    if (size.isValid())
+        QCOMPARE(picture.size(), size);
 }
 
 PHONE_TEST_MAIN(RowPicturesTest)
