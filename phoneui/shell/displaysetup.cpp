@@ -5,6 +5,12 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+// Outside the namespace, as the macro asks for it.
+static void initPictures()
+{
+    Q_INIT_RESOURCE(ui);
+}
+
 namespace DisplaySetup {
 
 void prepareEnvironment(const QString &platform)
@@ -18,6 +24,7 @@ void prepareEnvironment(const QString &platform)
 
 void prepareApplication()
 {
+    initPictures();
     // Roboto Condensed is narrow enough for a 92 pixel soft key at 18 points; a Nanum face has the Hangul.
     const QString phoneFamily = QStringLiteral("1V_02_GO_UI");
     QFont::insertSubstitutions(phoneFamily, {"Roboto Condensed", "NanumBarunGothic", "NanumGothic"});

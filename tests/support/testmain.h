@@ -2,7 +2,7 @@
 #define TESTMAIN_H
 
 #include "displaysetup.h"
-#include "windowstack.h"
+#include "testscreen.h"
 
 #include <QApplication>
 #include <QTest>
@@ -15,7 +15,7 @@
         DisplaySetup::prepareEnvironment();                                                                       \
         QApplication app(argc, argv);                                                                             \
         DisplaySetup::prepareApplication();                                                                       \
-        WindowStack windows;                                                                                      \
+        TestScreen screen;                                                                                        \
         TestClass test;                                                                                           \
         return QTest::qExec(&test, argc, argv);                                                                   \
     }

@@ -52,6 +52,8 @@ public:
     /// Hands the command to the target's `receiveMsg` once the current event is done, in the order of sending.
     /// A message for an application that does not run by then is dropped and logged.
     void sendAppMsg(const QString &target, const QString &command, const QByteArray &payload);
+    /// The same for a message that comes from outside the phone's applications and is none that they sent.
+    void postAppMsg(const QString &target, const QString &command, const QByteArray &payload);
     /// The applications that run, by name.
     QMap<QString, BaseAppInterface *> getAppMap() const { return m_apps; }
     void addApp(const QString &name, BaseAppInterface *app);

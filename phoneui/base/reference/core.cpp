@@ -76,6 +76,11 @@ void Core::setLauncher(const Launcher &launcher)
 void Core::sendAppMsg(const QString &target, const QString &command, const QByteArray &payload)
 {
     emit appMsgSent(target, command, payload);
+    postAppMsg(target, command, payload);
+}
+
+void Core::postAppMsg(const QString &target, const QString &command, const QByteArray &payload)
+{
     // One event a message: a handler that runs an event loop of its own does not hold up those behind it.
     QMetaObject::invokeMethod(
         this, [=] { deliver(target, command, payload); }, Qt::QueuedConnection);

@@ -1,0 +1,121 @@
+#ifndef CONTACT_H
+#define CONTACT_H
+
+#include "baseappinterface.h"
+#include "basewidget.h"
+#include "buddyidstatustype.h"
+#include "contactdata.h"
+
+class GridSelectView;
+class ListView;
+class ListViewItem;
+class QLabel;
+
+/// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
+/// contacts, local ones and those of the paired mobile device in one list by name.
+///
+/// With a provisioned system phonebook it opens on a chooser between the two phonebooks. The object lives as long as
+/// its library; `start` and `end` show and hide it.
+class Contact : public BaseWidget, public BaseAppInterface
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID BaseAppInterface_iid)
+    Q_INTERFACES(BaseAppInterface)
+
+public:
+    /// What the screen is for at the moment; the numbers stand in the log.
+    enum Step { ListStep = 0, ManagingStep = 1, SelectStep = 10 };
+
+    explicit Contact(QWidget *parent = nullptr);
+    ~Contact() override;
+
+    bool start(QWidget *parent, void *data) override;
+    void end() override;
+    void receiveMsg(const QString &command, const QByteArray &payload) override;
+
+    /// True when the provisioned system phonebook has entries.
+    bool checkSystemPhonebookEnabled();
+    /// The id with the default presence domain behind it, unless it has one.
+    QString checkDomain(QString id);
+
+    // The data: contactdata.cpp.
+
+    /// Reads both stores into the merged list and returns its length; the caller keeps that as the total. With both
+    /// stores empty it returns 0 and leaves the list as it was.
+    int loadContactData();
+    /// The presence of a cell of the page; both values are -1 for a contact without any.
+    buddyIdStatusType currItemPresenceStatus(int idx);
+
+    // The screen: contactscreen.cpp.
+
+    void setupStatus() override;
+    /// Shows the place of a contact, counted from 0 over all pages, in the title.
+    void setStatusTitle(int idx);
+    void setupListView();
+    void setupContactListView();
+    void setupNoContact();
+    void setupTail();
+    /// Builds the page anew. `keepSelection` with a `contactId` (not -1) turns to the page of that contact and with a
+    /// `selectIdx` keeps a cell; without it, the first cell is selected.
+    void setupListViewItems(bool keepSelection, int contactId, int selectIdx, bool reservedFlag);
+    /// Turns one page on or back, around the ends.
+    void setListViewPage(bool next);
+
+public slots:
+    // Commands: contactcommands.cpp.
+    void tailFuncButtonClicked(int idx);
+    int getContactTypeOfselectItem();
+    void focusChangedListViewItem(int idx);
+    void clickedContactListViewItem(int idx);
+    void focusChangedContactListViewItem(int idx);
+    void updateTail();
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    struct Command;
+
+    QPixmap rowPicture(const ContactData &contact) const;
+
+    void computePage(int found, int *cell, int *count);
+    int findContact(int contactId) const;
+    ListViewItem *makeCell(const ContactData &contact) const;
+    void setupChooserRows();
+    void showGrid();
+    void openPersonalPhonebook();
+    bool isLastPage() const;
+
+    void pressedUp(QKeyEvent *event);
+    void pressedDown(QKeyEvent *event);
+    void pressedLeft(QKeyEvent *event);
+    void pressedRight(QKeyEvent *event);
+    void leaveManagingStep();
+
+    void reload();
+    void refreshIfVisible();
+    void handleChangedLanguage();
+    void handlePhoneInit();
+    void handleContactChanged();
+    void handleMobileContactChanged();
+    void handleDevice();
+    void handleCloseContact();
+    void refreshPresence();
+
+    int m_totalCount = 0;
+    int m_listViewPage = 0; ///< from 0
+    int m_lastPage = 0;
+    int m_step = ListStep;
+    QLabel *m_noContactLabel = nullptr;
+    GridSelectView *m_listView = nullptr;
+    QList<ContactData> m_allContactList; ///< merged, by name
+    ListView *m_selectListView = nullptr;
+    bool m_systemPhonebookEnabled = false;
+};
+
+#endif

@@ -1,0 +1,42 @@
+// Contact: the merged list and its thumbnails.
+
+#include "contact.h"
+#include "thumbnail.h"
+
+#include "contactmanager.h"
+#include "core.h"
+#include "gridselectview.h"
+#include "listviewcontactitem.h"
+#include "wpsmcontactmanager.h"
+
+#include <algorithm>
+
+int Contact::loadContactData()
+{
+    QList<ContactData> contacts = theCore->contactManager()->getAllContacts();
+    contacts += theCore->wpsmContactManager()->getAllContacts();
+    if (contacts.isEmpty())
+        return 0;
+
+    // By name in code units; of one name the one read last comes first, so mobile contacts precede local ones.
+    std::reverse(contacts.begin(), contacts.end());
+    std::stable_sort(contacts.begin(), contacts.end(),
+                     [](const ContactData &a, const ContactData &b) { return a.name < b.name; });
+    m_allContactList.swap(contacts);
+    for (const ContactData &contact : qAsConst(m_allContactList)) {
+        if (contact.type == ContactData::LocalContact)
+            Thumbnail::make(contact.picture);
+    }
+    return m_allContactList.size();
+}
+
+buddyIdStatusType Contact::currItemPresenceStatus(int idx)
+{
+    auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(idx));
+    if (!cell || cell->getContactType() != ContactData::LocalContact)
+        return buddyIdStatusType();
+    const ContactData contact = theCore->contactManager()->getSpecificContactDetail(cell->getId());
+    if (contact.buddyId.isEmpty())
+        return buddyIdStatusType();
+    return theCore->contactManager()->getPresenceStatus().value(contact.buddyId);
+}

@@ -1,0 +1,81 @@
+#include "basewidget.h"
+
+#include "core.h"
+#include "status.h"
+#include "tail.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSettings>
+
+namespace {
+
+constexpr QRect ScreenGeometry(0, 26, 384, 134);
+constexpr QRect TailGeometry(8, 107, 369, 27);
+constexpr int LockingSystemType = 1;
+
+}
+
+BaseWidget::BaseWidget(QWidget *parent) : QDialog(parent, Qt::FramelessWindowHint)
+{
+    setGeometry(ScreenGeometry);
+    status = theCore->statusWidget();
+    tail = new Tail(this);
+    tail->setGeometry(TailGeometry);
+    tail->setVisible(true);
+}
+
+void BaseWidget::setupStatus() {}
+
+void BaseWidget::updateStatus()
+{
+    if (!status)
+        return;
+    const QSettings settings(theCore->configFileName(SettingsConfig), QSettings::IniFormat);
+    status->setTime24Hour(settings.value("Settings/24HourTime", false).toBool());
+
+    const QSettings system(theCore->configFileName(SystemConfig), QSettings::IniFormat);
+    const bool menuLocked = system.value("Menu_Password/enable", false).toBool();
+    const int callLock =
+        theCore->getSystemType() == LockingSystemType ? system.value("Security/CallLock", 0).toInt() : 0;
+    status->setUIStatusLock(menuLocked);
+    status->setUIStatusCallLock(callLock != 0);
+}
+
+bool BaseWidget::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        setupStatus();
+    return QWidget::event(event);
+}
+
+void BaseWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+    } else if (Tail::buttonOfKey(event->key()) >= 0) {
+        QCoreApplication::sendEvent(tail, event);
+        event->accept();
+    }
+}
+
+void BaseWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+        close();
+    } else if (Tail::buttonOfKey(event->key()) >= 0) {
+        QCoreApplication::sendEvent(tail, event);
+        event->accept();
+    }
+}
+
+void BaseWidget::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(QRect(QPoint(0, 0), QPoint(width() - 1, height() - 1)), QBrush(m_bgColor));
+}
+
+void BaseWidget::closeEvent(QCloseEvent *) {}
+
+void BaseWidget::hideEvent(QHideEvent *) {}

@@ -1,0 +1,45 @@
+#ifndef BASEWIDGET_H
+#define BASEWIDGET_H
+
+#include <QColor>
+#include <QDialog>
+#include <QPointer>
+
+class Status;
+class Tail;
+
+/// The base of every full screen: the 384 by 134 pixels below the status bar, with a soft-key bar of its own.
+///
+/// It hands the soft keys to the bar, closes on the release of Escape, and calls `setupStatus` whenever it becomes
+/// the active window, so that the right title is back after a screen on top has gone.
+class BaseWidget : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BaseWidget(QWidget *parent);
+
+    QColor bgColor() const { return m_bgColor; }
+    void setBgColor(QColor const &color) { m_bgColor = color; }
+
+    /// Brings the lock signs and the form of the clock on the status bar up to date with the settings.
+    void updateStatus();
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    /// Puts the screen's title and state on the status bar.
+    virtual void setupStatus();
+
+    QPointer<Status> status; ///< the phone's one status bar, not owned
+    Tail *tail = nullptr;
+
+private:
+    QColor m_bgColor = Qt::white;
+};
+
+#endif
