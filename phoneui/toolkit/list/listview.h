@@ -182,6 +182,12 @@ protected:
 
     /// False for a disabled row and for an index without a row.
     bool isRowEnabled(int idx) const;
+    // A page of no rows is accepted; sums divide by one row then.
+    int rowsPerPage() const { return qMax(1, m_pageCount); }
+    /// The room of the scroll bar, 0 while all rows fit.
+    int scrollWidth() const;
+    /// Where the row stands in the list, also while it is out of the window.
+    QRect rowRect(int idx) const;
     /// Tells the row, ahead of its paint, where it stands and how the list is.
     void prepareRow(ListViewItem *row, const QRect &rect, int scrollWidth);
     /// Fills the list with its colour and picture.
@@ -194,8 +200,6 @@ protected:
     bool m_isEnableFuncKey = false;
 
 private:
-    // A page of no rows is accepted; sums divide by one row then.
-    int rowsPerPage() const { return qMax(1, m_pageCount); }
     void showRowOfPage();
     void scheduleCheckFocus();
 
@@ -208,8 +212,6 @@ private:
     void clickSelected(QKeyEvent *event);
     void clickByFuncKey(QKeyEvent *event);
 
-    int scrollWidth() const;
-    QRect rowRect(int idx) const;
     void paintScrollBar(QPainter *painter);
     void paintRows(QPainter *painter);
     void paintSeparator(QPainter *painter, const ListViewItem *row, const QRect &rect);

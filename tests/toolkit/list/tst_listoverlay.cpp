@@ -243,8 +243,9 @@ void TestListOverlay::endsCompositionOfLongText()
     QTRY_VERIFY(window.list->lineEdit());
     m_core->setIMEStatus(IMECapital, true);
     bool lostFocus = false;
+    const QWidget *list = window.list;
     connect(qApp, &QApplication::focusChanged, window.list,
-            [&](QWidget *former, QWidget *) { lostFocus |= former == window.list; });
+            [&](QWidget *former, QWidget *) { lostFocus |= former == list; });
     QSignalSpy changes(window.list, &ListView::changeLineEditText);
 
     QTest::keyClicks(window.list->lineEdit(), "45");

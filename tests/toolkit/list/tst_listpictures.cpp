@@ -12,9 +12,19 @@
 
 namespace {
 
+struct Pixel
+{
+    int x, y; ///< in the list
+    QRgb color;
+};
+using Pixels = QVector<Pixel>;
+
 const QRgb Grey = qRgb(187, 187, 187), Dark = qRgb(85, 85, 85), White = qRgb(255, 255, 255), Black = qRgb(0, 0, 0);
 
 }
+
+Q_DECLARE_METATYPE(Pixels)
+Q_DECLARE_METATYPE(eListViewItemFocusType)
 
 /// What lists and grids look like. With PHONE_PICTURES set, each look is also written there, to be seen.
 class TestListPictures : public TestCase
@@ -44,42 +54,84 @@ void TestListPictures::lists_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("selected");
-    QTest::addColumn<int>("focusType");
+    QTest::addColumn<eListViewItemFocusType>("focusType");
     QTest::addColumn<int>("scrollBar");
     QTest::addColumn<bool>("pressed");
-    QTest::newRow("list-thin") << 8 << 0 << 1 << 0 << false;
-    QTest::newRow("list-clear") << 8 << 4 << 1 << 1 << false;
-    QTest::newRow("list-boxed") << 8 << 7 << 1 << 2 << false;
-    QTest::newRow("list-pressed") << 8 << 1 << 1 << 0 << true;
-    QTest::newRow("list-pressed-last") << 3 << 2 << 1 << 0 << true;
-    QTest::newRow("list-two") << 2 << 1 << 1 << 0 << false;
-    QTest::newRow("list-last") << 3 << 2 << 1 << 0 << false;
-    QTest::newRow("list-bar") << 8 << 1 << 0 << 0 << false;
-    QTest::newRow("list-flat") << 3 << 1 << 2 << 0 << false;
-    QTest::newRow("list-empty") << 0 << 0 << 1 << 0 << false;
+    QTest::addColumn<Pixels>("pixels");
+
+    const auto row = [](const char *name, int rows, int selected, eListViewItemFocusType focusType, int scrollBar,
+                        bool pressed, const Pixels &pixels) {
+        QTest::newRow(name) << rows << selected << focusType << scrollBar << pressed << pixels;
+    };
+    // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
+    // dotted.
+    const auto floating = ListViewFocusFloating;
+    row("list-thin", 8, 0, floating, 0, false,
+        {{369, 60, White},
+         {370, 60, Grey},
+         {373, 60, Grey},
+         {370, 5, Dark},
+         {373, 5, Dark},
+         {6, 0, Black},
+         {6, 32, Black},
+         {200, 0, White},
+         {200, 33, White}, // the frame, over the separator
+         {0, 67, Grey},
+         {1, 67, Grey},
+         {2, 67, White},
+         {366, 67, Grey},
+         {367, 67, White},
+         {3, 101, White}});
+    row("list-clear", 8, 4, floating, 1, false,
+        {{368, 50, White}, {369, 50, Dark}, {372, 50, Dark}, {373, 50, White}, {370, 10, White}});
+    row("list-boxed", 8, 7, floating, 2, false,
+        {{368, 10, Dark},
+         {369, 10, White},
+         {372, 10, White},
+         {373, 10, Dark},
+         {369, 90, White},
+         {370, 90, Dark},
+         {372, 90, Dark}});
+    row("list-pressed", 8, 1, floating, 0, true,
+        {{200, 33, Black}, {200, 70, Black}, {200, 71, White}, {366, 50, Black}, {367, 50, White}});
+    row("list-last", 3, 2, floating, 0, false, {{6, 67, Black}, {6, 101, Black}, {373, 95, Black}, {2, 33, Grey}});
+    row("list-pressed-last", 3, 2, floating, 0, true, {{200, 103, Black}, {200, 66, White}});
+    row("list-two", 2, 1, floating, 0, false, {{6, 66, Black}, {0, 71, White}});
+    row("list-bar", 8, 1, ListViewFocusBar, 0, false,
+        {{0, 34, Black}, {366, 50, Black}, {200, 32, White}, {0, 67, Grey}, {2, 67, White}});
+    row("list-flat", 3, 1, ListViewFocusFlat, 0, false, {{0, 34, White}, {200, 50, White}, {0, 67, Grey}});
+    row("list-empty", 0, 0, floating, 0, false, {{0, 33, White}});
 }
 
 void TestListPictures::lists()
 {
     QFETCH(int, rows);
     QFETCH(int, selected);
-    QFETCH(int, focusType);
+    QFETCH(eListViewItemFocusType, focusType);
     ListWindow window;
     window.add(rows);
-    window.list->setFocusType(eListViewItemFocusType(focusType));
+    window.list->setFocusType(focusType);
     for (int i = 0; i < rows; ++i)
-        window.list->item(i)->setFocusType(eListViewItemFocusType(focusType));
-    if (rows > 2)
+        window.list->item(i)->setFocusType(focusType);
+    if (rows > 0)
         window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
     window.list->setShowEmptyString(true);
     window.list->setSelectedIdx(selected);
     QFETCH(int, scrollBar);
     window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(scrollBar));
     QVERIFY(window.showNow());
+    window.list->setStartIdx(selected > 2 ? selected / 3 * 3 : 0);
     QFETCH(bool, pressed);
     if (pressed)
         PhoneKeys::press(Qt::Key_Return);
-    picture(window, QTest::currentDataTag());
+
+    const QImage image = picture(window, QTest::currentDataTag());
+    QFETCH(Pixels, pixels);
+    for (const Pixel &pixel : qAsConst(pixels)) {
+        const QPoint at = window.list->pos() + QPoint(pixel.x, pixel.y);
+        QVERIFY2(image.pixel(at) == pixel.color,
+                 qPrintable(QString("%1, %2: %3").arg(pixel.x).arg(pixel.y).arg(image.pixel(at), 0, 16)));
+    }
 }
 
 void TestListPictures::grid()
@@ -88,11 +140,21 @@ void TestListPictures::grid()
     for (const char *name : {"Anna Schmidt", "Bernd Maier-Leibnitz", "Carla", "Dora", "Emil von Hohenstaufen"})
         window.list->addItem(new ListViewContactGridItem(name, 1, 1));
     QVERIFY(window.showNow());
-    picture(window, "grid-first");
+    const QImage first = picture(window, "grid-first").copy(window.list->geometry());
+    // Dotted lines between the cells; the frame keeps to the part of the cell that the contact takes.
+    QCOMPARE(first.pixel(190, 33), Grey);
+    QCOMPARE(first.pixel(186, 90), Grey);
+    QCOMPARE(first.pixel(90, 33), White);
+    QCOMPARE(first.pixel(183, 5), Black);
+    QCOMPARE(first.pixel(184, 5), White);
+    QCOMPARE(first.pixel(0, 102), White);
     PhoneKeys::click(Qt::Key_Right);
     PhoneKeys::click(Qt::Key_Down);
     PhoneKeys::press(Qt::Key_Return);
-    picture(window, "grid-pressed");
+    const QImage pressed = picture(window, "grid-pressed").copy(window.list->geometry());
+    QCOMPARE(pressed.pixel(373, 50), Black);
+    QCOMPARE(pressed.pixel(190, 50), Black);
+    QCOMPARE(pressed.pixel(189, 50), White);
     PhoneKeys::release(Qt::Key_Return);
     window.list->setSelectedIdx(2);
     picture(window, "grid-last-line");
