@@ -53,7 +53,7 @@ class BrowserTest(unittest.TestCase):
     # -- the phone
 
     def start_phone(self):
-        self.phone = subprocess.Popen([program("phoneui"), "--home", self.home, "--no-peers"])
+        self.phone = subprocess.Popen([program("phoneui"), "--home", self.home])
         self.wait_until(lambda: self.phonectl("screen").returncode == 0, "a phone that answers")
 
     def end(self, process):

@@ -39,7 +39,7 @@ private:
 };
 
 /// An application that keeps what it is sent.
-class ListeningApp : public BaseAppInterface
+class ListeningApp final : public BaseAppInterface
 {
 public:
     explicit ListeningApp(const QString &name) : BaseAppInterface(name, nullptr) {}

@@ -7,8 +7,9 @@
 
 class QPainter;
 
-/// The floating focus: four corner pictures and the ground between them. The pictures leave their outer corner
-/// transparent, so nothing is filled under them.
+/// The floating focus: four corner pictures and the ground between them. Nothing is filled under the pictures,
+/// whose outer corners may be transparent. The lower pictures of the plain look end with four pixels of ground,
+/// because the frame laps that far over the row below and, in the last row, over the list's edge.
 class FocusFrame
 {
 public:

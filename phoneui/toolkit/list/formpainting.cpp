@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int PlateTop = 3;
-constexpr int PlateHeight = 28;
+constexpr int PlateTop = 2;
+constexpr int PlateHeight = 30;
 
 QPixmap widgetPicture(const char *name)
 {
@@ -41,16 +41,18 @@ QRect fieldRect(const QRect &edit)
 
 void drawField(QPainter *painter, const QRect &edit, bool selected, const QString &text)
 {
-    // What a frameless QLineEdit leaves free beside its text.
+    // A frameless QLineEdit leaves that much free beside its text, and gives a spare pixel to the space above it.
     static constexpr int EditMargin = 2;
+    const int textHeight = painter->fontMetrics().height();
+    const QRect textRect(edit.left() + EditMargin, edit.top() + (edit.height() - textHeight + 1) / 2,
+                         edit.width() - 2 * EditMargin, textHeight);
 
     RowPainting::drawSlices(painter, fieldRect(edit), QStringLiteral(":/ui/images/widget/inputbox"),
                             selected ? QString() : QStringLiteral("_sel"));
     painter->save();
     if (selected)
         painter->setPen(Qt::black);
-    RowPainting::drawElided(painter, edit.adjusted(EditMargin, 0, -EditMargin, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                            text);
+    RowPainting::drawElided(painter, textRect, Qt::AlignTop | Qt::AlignLeft, text);
     painter->restore();
 }
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 static constexpr int Gap = 4; // between icon, caption and the cell's edges
+static constexpr int IndexWidth = 14;
 
 GridListViewItem::GridListViewItem(QString const &text, QPixmap const &normal, QPixmap const &selected)
     : ListViewItem(text, normal, selected)
@@ -27,9 +28,9 @@ QPixmap GridListViewItem::icon()
     return shown ? *shown : QPixmap();
 }
 
-QRect GridListViewItem::inner(const QRect &rect) const
+QRect GridListViewItem::room(const QRect &rect) const
 {
-    return rect.adjusted(m_leftMargin, 0, -m_rightMargin, 0);
+    return rect.adjusted(m_leftMargin + Gap + (m_index ? IndexWidth : 0), 0, -m_rightMargin - Gap, 0);
 }
 
 void GridListViewItem::drawIndex(QPainter *painter, const QRect &rect)
@@ -41,7 +42,8 @@ void GridListViewItem::drawIndex(QPainter *painter, const QRect &rect)
     QFont font = painter->font();
     font.setPointSize(PointSize);
     painter->setFont(font);
-    painter->drawText(inner(rect).adjusted(Gap, 1, 0, 0), Qt::AlignLeft | Qt::AlignTop, QString::number(m_index));
+    painter->drawText(rect.adjusted(m_leftMargin + Gap, 1, 0, 0), Qt::AlignLeft | Qt::AlignTop,
+                      QString::number(m_index));
     painter->restore();
 }
 
@@ -59,10 +61,13 @@ void GridListViewItem::paint(QPainter *painter, QRect &rect)
     paintGround(painter, rect);
     drawIndex(painter, rect);
 
-    const QPixmap picture = icon();
-    QRect caption = inner(rect).adjusted(Gap, 0, -Gap, 0);
+    QPixmap picture = icon();
+    QRect caption = room(rect);
     if (!picture.isNull()) {
+        // In a low cell the icon gives way to the caption.
         const int captionHeight = painter->fontMetrics().height();
+        if (picture.height() + captionHeight > rect.height())
+            picture = picture.scaledToHeight(qMax(1, rect.height() - captionHeight), Qt::SmoothTransformation);
         const int top = qMax(0, (rect.height() - picture.height() - captionHeight) / 2);
         painter->drawPixmap(caption.left() + (caption.width() - picture.width()) / 2, rect.top() + top, picture);
         caption.setTop(rect.top() + top + picture.height());
@@ -81,12 +86,11 @@ GridListViewMenuItem::GridListViewMenuItem(QString const &text, QPixmap const &n
 
 void GridListViewMenuItem::paint(QPainter *painter, QRect &rect)
 {
-    static constexpr int IndexWidth = 14;
     painter->save();
     paintGround(painter, rect);
     drawIndex(painter, rect);
 
-    QRect caption = inner(rect).adjusted(Gap + (index() ? IndexWidth : 0), 0, -Gap, 0);
+    QRect caption = room(rect);
     const QPixmap picture = icon();
     if (!picture.isNull()) {
         RowPainting::drawCentred(painter, rect, caption.left(), picture);
@@ -109,11 +113,11 @@ void GridListViewFunctionItem::paint(QPainter *painter, QRect &rect)
     paintGround(painter, rect);
     drawIndex(painter, rect);
 
-    const QRect room = inner(rect).adjusted(Gap, 0, -Gap, 0);
+    const QRect whole = room(rect);
     const QPixmap picture = icon();
     const int iconWidth = picture.isNull() ? 0 : picture.width() + Gap;
-    const int captionWidth = qMin(painter->fontMetrics().horizontalAdvance(text()), room.width() - iconWidth);
-    const int left = room.left() + (room.width() - iconWidth - captionWidth) / 2;
+    const int captionWidth = qMin(painter->fontMetrics().horizontalAdvance(text()) + 1, whole.width() - iconWidth);
+    const int left = whole.left() + (whole.width() - iconWidth - captionWidth) / 2;
     if (!picture.isNull())
         RowPainting::drawCentred(painter, rect, left, picture);
     drawCaption(painter, QRect(left + iconWidth, rect.top(), captionWidth, rect.height()),

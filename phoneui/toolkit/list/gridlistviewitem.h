@@ -28,8 +28,8 @@ public:
 protected:
     /// The icon for the state of the cell, null if it has none.
     QPixmap icon();
-    /// The cell without its margins.
-    QRect inner(const QRect &rect) const;
+    /// The cell without its margins and its number.
+    QRect room(const QRect &rect) const;
     void drawIndex(QPainter *painter, const QRect &rect);
     void drawCaption(QPainter *painter, const QRect &rect, int flags);
 

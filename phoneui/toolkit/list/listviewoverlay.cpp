@@ -67,7 +67,11 @@ void ListView::checkFocus()
 
 QLineEdit *ListView::createOverlay()
 {
+    // A line of the font is higher than the field. What is too much goes above and below alike, as in the row.
+    static constexpr int Overlap = 1;
+
     auto *overlay = new QLineEdit(this);
+    overlay->setTextMargins(0, -Overlap, 0, -Overlap);
     overlay->setObjectName(QStringLiteral("ListView::QLineEdit"));
     overlay->installEventFilter(this);
     overlay->setFont(font());

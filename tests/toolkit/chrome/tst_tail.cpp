@@ -200,7 +200,7 @@ void TailTest::pictures()
     const QStringList texts{"Edit", "Create Group", "Add Contact", QString(), QString::fromUtf8("∨"),
                             "ERASE", "X",            ">>",          ">",       "MSG_Erase"};
     for (const int design : {0, 1}) {
-        QSettings(m_phone->core.configFileName(SystemConfig), QSettings::IniFormat).setValue("System/Design", design);
+        QSettings(m_phone->core.configFileName(SettingsConfig), QSettings::IniFormat).setValue("Settings/Design", design);
         for (const bool down : {false, true}) {
             QImage all(384, 3 * 27, QImage::Format_RGB32);
             all.fill(Qt::white);

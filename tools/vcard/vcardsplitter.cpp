@@ -1,0 +1,120 @@
+#include "vcardsplitter.h"
+
+#include <QIODevice>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+#include <memory>
+
+namespace {
+
+// A card with a large photo stays far below this; what goes beyond is no card.
+constexpr int LargestCard = 16 * 1024 * 1024;
+
+bool isLine(const QByteArray &line, const char *text)
+{
+    return line.trimmed().compare(text, Qt::CaseInsensitive) == 0;
+}
+
+bool decodes(const QByteArray &bytes, const char *charset, QString *text)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    *text = QTextCodec::codecForName(charset)->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+QByteArray inUtf8(const QByteArray &line)
+{
+    QString text;
+    if (line.toUpper().contains("CHARSET=") || decodes(line, "UTF-8", &text))
+        return line;
+    if (!decodes(line, "EUC-KR", &text))
+        text = QString::fromLatin1(line);
+    return text.toUtf8();
+}
+
+QByteArray plainForm(const QByteArray &line, bool continued)
+{
+    if (continued || line.startsWith(' ') || line.startsWith('\t'))
+        return inUtf8(line);
+    static const QRegularExpression group(QStringLiteral("^[A-Za-z0-9-]+\\.(?=[A-Za-z-]+[:;])"));
+    static const QRegularExpression dataAddress(QStringLiteral("^PHOTO[^:]*:data:image/([a-z]+)[^,]*;base64,"),
+                                                QRegularExpression::CaseInsensitiveOption);
+    // The parser takes one level of escapes away before it looks for the commas between categories.
+    static const QRegularExpression categories(QStringLiteral("^CATEGORIES[:;]"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression escapedComma(QStringLiteral("(?<!\\\\)\\\\,"));
+
+    QString text = QString::fromLatin1(inUtf8(line));
+    text.remove(group);
+    text.replace(dataAddress, QStringLiteral("PHOTO;ENCODING=b;TYPE=\\1:"));
+    if (text.contains(categories))
+        text.replace(escapedComma, QStringLiteral("\\\\\\\\,"));
+    return text.toLatin1();
+}
+
+bool opensInnerCard(const QByteArray &line)
+{
+    return line.left(5).toUpper() == "AGENT" && line.trimmed().endsWith(':');
+}
+
+}
+
+bool VCardSplitter::readLine(QByteArray *line)
+{
+    *line = m_device->readLine(LargestCard);
+    if (line->isEmpty())
+        return false;
+    if (m_line == 0 && line->startsWith("\xef\xbb\xbf"))
+        line->remove(0, 3);
+    ++m_line;
+    return true;
+}
+
+bool VCardSplitter::next(VCardText *card)
+{
+    *card = VCardText();
+    QByteArray line;
+    while (!m_beginRead) {
+        if (!readLine(&line))
+            return false;
+        if (isLine(line, "END:VCARD")) {
+            card->line = m_line;
+            card->problem = QStringLiteral("END:VCARD without BEGIN:VCARD");
+            return true;
+        }
+        m_beginRead = isLine(line, "BEGIN:VCARD");
+    }
+    m_beginRead = false;
+    card->line = m_line;
+    card->text = "BEGIN:VCARD\r\n";
+
+    QByteArray former;
+    int innerCards = 0;
+    while (readLine(&line)) {
+        if (isLine(line, "BEGIN:VCARD")) {
+            if (!opensInnerCard(former)) {
+                m_beginRead = true;
+                break;
+            }
+            ++innerCards;
+        }
+        if (innerCards > 0) {
+            innerCards -= isLine(line, "END:VCARD") ? 1 : 0;
+            former.clear();
+            continue;
+        }
+        while (line.endsWith('\n') || line.endsWith('\r'))
+            line.chop(1);
+        if (card->text.size() < LargestCard)
+            card->text += plainForm(line, former.endsWith('=')) + "\r\n";
+        if (isLine(line, "END:VCARD")) {
+            if (card->text.size() >= LargestCard)
+                card->problem = QStringLiteral("too large");
+            return true;
+        }
+        former = line;
+    }
+    card->problem = QStringLiteral("no END:VCARD");
+    return true;
+}
