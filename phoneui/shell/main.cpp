@@ -59,9 +59,12 @@ void fillNewHome(const PhoneHome &home)
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath("contacts.vcf");
-    if (!QFile::copy(":/demo/contacts.vcf", file)
-        || QProcess::execute(programPath("phonebook"), {"--home", home.root(), "--quiet", "import", file}) != 0)
-        qWarning("The demonstration contacts could not be imported");
+    QFile::copy(":/demo/contacts.vcf", file);
+    QProcess import;
+    import.start(programPath("phonebook"), {"--home", home.root(), "import", file});
+    if (!import.waitForFinished() || import.exitCode() != 0)
+        qWarning("The demonstration contacts could not be imported: %s %s", qPrintable(import.errorString()),
+                 import.readAllStandardError().constData());
 }
 
 /// Ends the phone with the script's exit code when the script is done.
