@@ -70,7 +70,9 @@ class BrowserTest(unittest.TestCase):
         return subprocess.run([program("phonectl"), "--home", self.home, *words], capture_output=True, text=True)
 
     def screen(self):
-        return json.loads(self.phonectl("screen").stdout)
+        ended = self.phonectl("screen")
+        self.assertEqual(ended.returncode, 0, ended.stderr)
+        return json.loads(ended.stdout)
 
     def wait_for_screen(self, **wanted):
         def is_shown():

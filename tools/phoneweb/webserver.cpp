@@ -18,7 +18,7 @@ static constexpr int Threads = 24;
 /// In seconds: for a browser that sends or reads no more, and for a connection that it keeps for later.
 static constexpr int TransferTime = 5;
 static constexpr int KeepTime = 2;
-static constexpr size_t LargestPost = 64 * 1024;
+static constexpr size_t LargestPost = 65536;
 /// How often a stream without news looks whether its browser is still there, in milliseconds.
 static constexpr int ViewerLook = 1000;
 

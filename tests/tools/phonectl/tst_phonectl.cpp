@@ -11,7 +11,7 @@
 #include <QScopedPointer>
 #include <QTemporaryDir>
 
-class PhoneCtlTest : public TestCase
+class TestPhoneCtl : public TestCase
 {
     Q_OBJECT
 
@@ -73,26 +73,26 @@ static const char QuietScreen[] = R"json({"edit": "", "popup": null, "toast": nu
 static const char Sent[] = R"json([{"target": "call", "command": "dial(str,int)", "args": ["0301", 2]},
     {"target": "XCID", "command": "ui2http(str)", "args": []}])json";
 
-void PhoneCtlTest::setUp()
+void TestPhoneCtl::setUp()
 {
     m_home.reset(new QTemporaryDir);
     m_phone.reset(new FakePhone);
     QVERIFY(m_phone->start(m_home->path()));
 }
 
-void PhoneCtlTest::tearDown()
+void TestPhoneCtl::tearDown()
 {
     m_phone.reset();
     m_home.reset();
 }
 
-void PhoneCtlTest::start(const QStringList &words)
+void TestPhoneCtl::start(const QStringList &words)
 {
     m_program.start(QCoreApplication::applicationDirPath() + "/../bin/phonectl",
                     QStringList{"--home", m_home->path()} + words);
 }
 
-PhoneCtlTest::Ended PhoneCtlTest::end()
+TestPhoneCtl::Ended TestPhoneCtl::end()
 {
     if (!QTest::qWaitFor([this] { return m_program.state() == QProcess::NotRunning; }, 20000))
         m_program.kill();
@@ -101,13 +101,13 @@ PhoneCtlTest::Ended PhoneCtlTest::end()
             QString::fromUtf8(m_program.readAllStandardError())};
 }
 
-PhoneCtlTest::Ended PhoneCtlTest::run(const QStringList &words)
+TestPhoneCtl::Ended TestPhoneCtl::run(const QStringList &words)
 {
     start(words);
     return end();
 }
 
-QString PhoneCtlTest::write(const QString &name, const QString &text)
+QString TestPhoneCtl::write(const QString &name, const QString &text)
 {
     QFile file(m_home->filePath(name));
     if (file.open(QIODevice::WriteOnly))
@@ -115,7 +115,7 @@ QString PhoneCtlTest::write(const QString &name, const QString &text)
     return file.fileName();
 }
 
-void PhoneCtlTest::splitsLines_data()
+void TestPhoneCtl::splitsLines_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QStringList>("words");
@@ -130,7 +130,7 @@ void PhoneCtlTest::splitsLines_data()
     QTest::newRow("empty words") << "softkeys '' \"\" $''" << QStringList{"softkeys", "", "", ""};
 }
 
-void PhoneCtlTest::splitsLines()
+void TestPhoneCtl::splitsLines()
 {
     QFETCH(QString, line);
     QStringList words;
@@ -138,14 +138,14 @@ void PhoneCtlTest::splitsLines()
     QTEST(words, "words");
 }
 
-void PhoneCtlTest::refusesLines()
+void TestPhoneCtl::refusesLines()
 {
     QStringList words;
     for (const char *line : {"text 'a", "text \"a\\\"", "text $'a\\'", "text a\\"})
         QVERIFY2(!Script::split(line, &words).isEmpty(), line);
 }
 
-void PhoneCtlTest::compares_data()
+void TestPhoneCtl::compares_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<bool>("holds");
@@ -185,7 +185,7 @@ void PhoneCtlTest::compares_data()
     row({"no", "sent", "XCID", "dial(str,int)"}, true);
 }
 
-void PhoneCtlTest::compares()
+void TestPhoneCtl::compares()
 {
     QFETCH(QStringList, words);
     Expectation expectation;
@@ -195,7 +195,7 @@ void PhoneCtlTest::compares()
     QTEST(expectation.holds(isMessage ? QJsonValue(QJsonDocument::fromJson(Sent).array()) : json(Screen)), "holds");
 }
 
-void PhoneCtlTest::reportsWhatIsThere_data()
+void TestPhoneCtl::reportsWhatIsThere_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QByteArray>("screen");
@@ -214,7 +214,7 @@ void PhoneCtlTest::reportsWhatIsThere_data()
     row({"no", "toast"}, Screen, R"(no toast, found "Saved")");
 }
 
-void PhoneCtlTest::reportsWhatIsThere()
+void TestPhoneCtl::reportsWhatIsThere()
 {
     QFETCH(QStringList, words);
     QFETCH(QByteArray, screen);
@@ -224,7 +224,7 @@ void PhoneCtlTest::reportsWhatIsThere()
     QTEST(expectation.wanted() + ", found " + expectation.found(json(screen)), "report");
 }
 
-void PhoneCtlTest::sendsRequests_data()
+void TestPhoneCtl::sendsRequests_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QStringList>("requests");
@@ -236,7 +236,7 @@ void PhoneCtlTest::sendsRequests_data()
                           << QStringList{"send contact viewContact(str) -1"};
 }
 
-void PhoneCtlTest::sendsRequests()
+void TestPhoneCtl::sendsRequests()
 {
     QFETCH(QStringList, words);
     const Ended ended = run(words);
@@ -245,14 +245,14 @@ void PhoneCtlTest::sendsRequests()
     QTEST(m_phone->requests(), "requests");
 }
 
-void PhoneCtlTest::expectWaits()
+void TestPhoneCtl::expectWaits()
 {
     m_phone->setAnswers("screen", {json(QuietScreen), json(QuietScreen), json(Screen)});
     QCOMPARE(run({"expect", "title", "Contacts | All (1/3)"}).code, 0);
     QCOMPARE(m_phone->requests().size(), 3);
 }
 
-void PhoneCtlTest::scriptStopsAtTheFirstFailure()
+void TestPhoneCtl::scriptStopsAtTheFirstFailure()
 {
     m_phone->setAnswers("screen", {json(Screen)});
     const QString script = write("a.keys", "# opens nothing\nkey Up\n\nexpect title 'Menu'\nkey Down\n");
@@ -267,7 +267,7 @@ void PhoneCtlTest::scriptStopsAtTheFirstFailure()
     QVERIFY2(ended.err.endsWith("b.keys:1: no such application\n"), qPrintable(ended.err));
 }
 
-void PhoneCtlTest::scriptIsCheckedBeforeItRuns()
+void TestPhoneCtl::scriptIsCheckedBeforeItRuns()
 {
     for (const char *line : {"expect tittle x", "sleep soon", "watch", "keys Up", "text 'open"}) {
         const Ended ended = run({"run", write("a.keys", "key Up\n" + QString(line))});
@@ -277,7 +277,7 @@ void PhoneCtlTest::scriptIsCheckedBeforeItRuns()
     QCOMPARE(m_phone->requests(), QStringList());
 }
 
-void PhoneCtlTest::cannotRun_data()
+void TestPhoneCtl::cannotRun_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::newRow("nothing") << QStringList();
@@ -289,7 +289,7 @@ void PhoneCtlTest::cannotRun_data()
     QTest::newRow("no phone") << QStringList{"--home", "/nonexistent", "key", "Up"};
 }
 
-void PhoneCtlTest::cannotRun()
+void TestPhoneCtl::cannotRun()
 {
     QFETCH(QStringList, words);
     const Ended ended = run(words);
@@ -298,7 +298,7 @@ void PhoneCtlTest::cannotRun()
     QCOMPARE(m_phone->requests(), QStringList());
 }
 
-void PhoneCtlTest::phoneDiesMeanwhile()
+void TestPhoneCtl::phoneDiesMeanwhile()
 {
     m_phone->setDeadly("release");
     const Ended ended = run({"key", "Up"});
@@ -306,7 +306,7 @@ void PhoneCtlTest::phoneDiesMeanwhile()
     QCOMPARE(ended.err, QString("phonectl: the phone has gone\n"));
 }
 
-void PhoneCtlTest::waitsForAPhoneThatStarts()
+void TestPhoneCtl::waitsForAPhoneThatStarts()
 {
     m_phone.reset(new FakePhone);
     start({"--wait", "key", "Up"});
@@ -316,7 +316,7 @@ void PhoneCtlTest::waitsForAPhoneThatStarts()
     QCOMPARE(end().code, 0);
 }
 
-void PhoneCtlTest::savesThePicture()
+void TestPhoneCtl::savesThePicture()
 {
     m_phone->setAnswers("shot", {QString::fromLatin1(QByteArray("\x89PNG").toBase64())});
     QCOMPARE(run({"shot", m_home->filePath("a.png")}).code, 0);
@@ -326,7 +326,7 @@ void PhoneCtlTest::savesThePicture()
     QCOMPARE(run({"shot", "/nonexistent/a.png"}).code, 2);
 }
 
-void PhoneCtlTest::watchesUntilThePhoneGoes()
+void TestPhoneCtl::watchesUntilThePhoneGoes()
 {
     m_phone->setAnswers("watch", {QString("UE5H")});
     start({"watch"});
@@ -337,5 +337,5 @@ void PhoneCtlTest::watchesUntilThePhoneGoes()
     QCOMPARE(end().code, 2);
 }
 
-QTEST_GUILESS_MAIN(PhoneCtlTest)
-#include "phonectltest.moc"
+QTEST_GUILESS_MAIN(TestPhoneCtl)
+#include "tst_phonectl.moc"
