@@ -145,7 +145,12 @@ QJsonObject ControlServer::key(const QString &name, bool down)
     const int code = PhoneKey::code(name);
     if (code == 0)
         return bad(QString("there is no key \"%1\"").arg(name));
-    PhoneKey::post(code, down);
+    const bool repeated = down && m_keysDown.contains(code); // a client repeats a key that is held by pressing it again
+    if (down)
+        m_keysDown.insert(code);
+    else
+        m_keysDown.remove(code);
+    PhoneKey::post(code, down, repeated);
     return good();
 }
 

@@ -6,6 +6,7 @@
 #include <QLocalServer>
 #include <QPointer>
 #include <QQueue>
+#include <QSet>
 
 #include <functional>
 
@@ -71,6 +72,7 @@ private:
 
     Phone m_phone;
     QLocalServer m_server;
+    QSet<int> m_keysDown;
     QQueue<QPair<QPointer<QLocalSocket>, QByteArray>> m_requests;
 };
 
