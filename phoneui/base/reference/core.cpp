@@ -7,6 +7,8 @@
 #include "soundmanager.h"
 #include "wpsmcontactmanager.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QSettings>
 #include <QTextCodec>
@@ -88,6 +90,10 @@ void Core::postAppMsg(const QString &target, const QString &command, const QByte
 
 void Core::deliver(const QString &target, const QString &command, const QByteArray &payload)
 {
+    // Messages posted together are delivered in one go. A loop that a handler starts meanwhile sleeps over the rest
+    // on some dispatchers, unless it is woken.
+    if (QAbstractEventDispatcher *dispatcher = QCoreApplication::eventDispatcher())
+        dispatcher->wakeUp();
     if (BaseAppInterface *app = m_apps.value(target))
         app->receiveMsg(command, payload);
     else
