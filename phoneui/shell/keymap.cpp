@@ -66,7 +66,8 @@ int KeyMap::phoneKey(const QKeyEvent *event) const
 bool KeyMap::eventFilter(QObject *watched, QEvent *event)
 {
     const bool press = event->type() == QEvent::KeyPress;
-    if ((!press && event->type() != QEvent::KeyRelease) || !event->spontaneous() || !qobject_cast<QWindow *>(watched))
+    if ((!press && event->type() != QEvent::KeyRelease) || !event->spontaneous()
+        || !qobject_cast<QWindow *>(watched))
         return false;
     const auto *key = static_cast<QKeyEvent *>(event);
     // A release belongs to the phone key that its press became, whatever modifiers were let go meanwhile.

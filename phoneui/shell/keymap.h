@@ -8,8 +8,9 @@
 
 class QKeyEvent;
 
-/// Turns the keys of a PC keyboard into those of the phone, by `config/keymap.ini`: a section [Keys] with lines such
-/// as `Shift+F1=F1`, a PC key on the left and a phone key on the right. What it does not name is typed as it is.
+/// Turns the keys of a PC keyboard into those of the phone, by `config/keymap.ini`: a section [Keys] with lines
+/// such as `Shift+F1=F1`, a PC key on the left and a phone key on the right. What it does not name is typed as it
+/// is.
 class KeyMap : public QObject
 {
     Q_OBJECT
@@ -31,7 +32,7 @@ private:
 
     QMap<QString, QString> m_names;
     QHash<int, int> m_codes; ///< PC key with modifiers to phone key
-    QHash<int, int> m_down;  ///< PC key to the phone key that its press became
+    QHash<int, int> m_down; ///< PC key to the phone key that its press became
 };
 
 #endif

@@ -47,8 +47,8 @@ bool Phone::openSockets()
         qWarning("A phone is already running in %s", qPrintable(home.root()));
         return false;
     }
-    m_control.reset(new ControlServer({&m_windows, &m_display, &m_keyMap, m_log.get(),
-                                       [this](const QString &name) { return launch(name); }}));
+    m_control.reset(new ControlServer(
+        {&m_windows, &m_display, &m_keyMap, m_log.get(), [this](const QString &name) { return launch(name); }}));
     return m_peers.listen(home.peerSocket()) && m_control->listen(home.controlSocket());
 }
 

@@ -18,8 +18,8 @@
 class ControlServer;
 class MessageLog;
 
-/// One phone: the platform, the display with its status bar and keys, the applications, and the sockets over which it
-/// is driven. Made after QApplication and gone before it.
+/// One phone: the platform, the display with its status bar and keys, the applications, and the sockets over which
+/// it is driven. Made after QApplication and gone before it.
 class Phone : public QObject
 {
     Q_OBJECT

@@ -57,8 +57,8 @@ BaseAppInterface *PluginHost::load(const QString &path)
         return refuse("it is no plug-in");
     if (id != BaseAppInterface_iid)
         return refuse("its interface is " + id);
-    const auto query =
-        reinterpret_cast<const char *(*)()>(QLibrary::resolve(path, "qt_plugin_query_verification_data"));
+    const auto query
+        = reinterpret_cast<const char *(*)()>(QLibrary::resolve(path, "qt_plugin_query_verification_data"));
     if (!query)
         return refuse("it shows no verification data");
     const QString fault = verificationFault(query());

@@ -40,10 +40,8 @@ bool WindowStack::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Hide:
-    case QEvent::ZOrderChange:
-        break;
-    default:
-        return false;
+    case QEvent::ZOrderChange: break;
+    default: return false;
     }
     auto *window = qobject_cast<QWidget *>(watched);
     if (!window || !window->isWindow())

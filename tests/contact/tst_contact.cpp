@@ -270,7 +270,8 @@ void ContactTest::anEmptiedPhonebookShowsNothing()
     send("api2ui_noti_contact_changed()");
     QCOMPARE(title(), QString("Contacts | All (0/0)"));
     QVERIFY(m_screen->names().isEmpty());
-    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Return, Qt::Key_Context4})
+    for (const Qt::Key key :
+         {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Return, Qt::Key_Context4})
         click(key);
     QVERIFY(m_screen->app.isVisible());
     m_phone->addContact("Back");
@@ -292,7 +293,8 @@ void ContactTest::ignoresWhatItDoesNotKnow()
     m_phone->addContacts(2);
     open();
     m_phone->addContact("Unseen");
-    for (const char *command : {"wpsm2ui_noti_contact_changed(int)", "API2UI_noti_contact_changed()", "", "CloseContact"})
+    for (const char *command :
+         {"wpsm2ui_noti_contact_changed(int)", "API2UI_noti_contact_changed()", "", "CloseContact"})
         send(command);
     QCOMPARE(title(), QString("Contacts | All (1/2)"));
     send("wpsm2ui _noti_contact_changed(int)");

@@ -62,16 +62,26 @@ void KeyMapTest::mapsPcKeys_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("phoneKey");
     const int none = Qt::NoModifier, shift = Qt::ShiftModifier, alt = Qt::AltModifier;
-    QTest::newRow("F1") << int(Qt::Key_F1) << none << "" << "Soft1";
-    QTest::newRow("Shift+F1") << int(Qt::Key_F1) << shift << "" << "F1";
-    QTest::newRow("Shift+F10") << int(Qt::Key_F10) << shift << "" << "F10";
-    QTest::newRow("Alt+5") << int(Qt::Key_5) << alt << "5" << "5";
-    QTest::newRow("Alt+*, which needs Shift") << int(Qt::Key_Asterisk) << (alt | shift) << "*" << "Star";
-    QTest::newRow("Alt+#") << int(Qt::Key_NumberSign) << alt << "#" << "Hash";
-    QTest::newRow("Enter of the number block") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "\r" << "Ok";
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << none << "\x1b" << "Esc";
-    QTest::newRow("a letter is typed") << int(Qt::Key_A) << none << "a" << "a";
-    QTest::newRow("a digit is typed") << int(Qt::Key_5) << none << "5" << "5";
+    QTest::newRow("F1") << int(Qt::Key_F1) << none << ""
+                        << "Soft1";
+    QTest::newRow("Shift+F1") << int(Qt::Key_F1) << shift << ""
+                              << "F1";
+    QTest::newRow("Shift+F10") << int(Qt::Key_F10) << shift << ""
+                               << "F10";
+    QTest::newRow("Alt+5") << int(Qt::Key_5) << alt << "5"
+                           << "5";
+    QTest::newRow("Alt+*, which needs Shift") << int(Qt::Key_Asterisk) << (alt | shift) << "*"
+                                              << "Star";
+    QTest::newRow("Alt+#") << int(Qt::Key_NumberSign) << alt << "#"
+                           << "Hash";
+    QTest::newRow("Enter of the number block") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "\r"
+                                               << "Ok";
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << none << "\x1b"
+                            << "Esc";
+    QTest::newRow("a letter is typed") << int(Qt::Key_A) << none << "a"
+                                       << "a";
+    QTest::newRow("a digit is typed") << int(Qt::Key_5) << none << "5"
+                                      << "5";
 }
 
 void KeyMapTest::mapsPcKeys()

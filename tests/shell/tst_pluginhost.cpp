@@ -48,7 +48,8 @@ void PluginHostTest::refusesWhatIsNoPlugin()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("no library");
     file.close();
-    for (const QString &path : {file.fileName(), folder.filePath("missing.so"), QString(PHONE_PROGRAMS "/libbase.so")}) {
+    for (const QString &path :
+         {file.fileName(), folder.filePath("missing.so"), QString(PHONE_PROGRAMS "/libbase.so")}) {
         expectWarning("refused: it is no plug-in");
         QVERIFY(!host.load(path));
     }

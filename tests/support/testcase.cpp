@@ -35,14 +35,16 @@ void TestCase::cleanup()
 
     QVERIFY2(m_unexpected.isEmpty(), qPrintable("unexpected warning: " + m_unexpected.join("\n")));
     QVERIFY2(m_expected.isEmpty(),
-             qPrintable("warning that did not come: " + (m_expected.isEmpty() ? QString() : m_expected.first().pattern())));
+             qPrintable("warning that did not come: "
+                        + (m_expected.isEmpty() ? QString() : m_expected.first().pattern())));
     QVERIFY2(left.isEmpty(), qPrintable("windows left open: " + left.join(", ")));
 }
 
 /// What Qt's offscreen platform says at each window.
 static bool isPlatformNoise(const QString &text)
 {
-    return text == "This plugin does not support propagateSizeHints()" || text == "This plugin does not support raise()";
+    return text == "This plugin does not support propagateSizeHints()"
+        || text == "This plugin does not support raise()";
 }
 
 void TestCase::handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)

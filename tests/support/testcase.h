@@ -15,8 +15,8 @@ class TestCase : public QObject
     Q_OBJECT
 
 protected:
-    virtual void setUp() {}
-    virtual void tearDown() {}
+    virtual void setUp() { }
+    virtual void tearDown() { }
 
     /// Announces one warning whose text contains this pattern.
     void expectWarning(const QString &pattern);

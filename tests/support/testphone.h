@@ -42,11 +42,11 @@ private:
 class ListeningApp final : public BaseAppInterface
 {
 public:
-    explicit ListeningApp(const QString &name) : BaseAppInterface(name, nullptr) {}
+    explicit ListeningApp(const QString &name) : BaseAppInterface(name, nullptr) { }
     ~ListeningApp() = default;
 
     bool start(QWidget *, void *) override { return true; }
-    void end() override {}
+    void end() override { }
     void receiveMsg(const QString &command, const QByteArray &) override { commands.append(command); }
 
     QStringList commands;

@@ -110,7 +110,8 @@ void Contact::showEvent(QShowEvent *)
         theCore->sendAppMsg("idle", "raiseStatus()", QByteArray(""));
         repaint();
     }
-    m_totalCount = theCore->wpsmContactManager()->getCountOfContact() + theCore->contactManager()->getCountOfContact();
+    m_totalCount
+        = theCore->wpsmContactManager()->getCountOfContact() + theCore->contactManager()->getCountOfContact();
     if (m_systemPhonebookEnabled) {
         m_listView->hide();
         m_selectListView->setSelectedIdx(0);

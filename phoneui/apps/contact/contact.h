@@ -14,8 +14,8 @@ class QLabel;
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
 /// contacts, local ones and those of the paired mobile device in one list by name.
 ///
-/// With a provisioned system phonebook it opens on a chooser between the two phonebooks. The object lives as long as
-/// its library; `start` and `end` show and hide it.
+/// With a provisioned system phonebook it opens on a chooser between the two phonebooks. The object lives as long
+/// as its library; `start` and `end` show and hide it.
 class Contact : public BaseWidget, public BaseAppInterface
 {
     Q_OBJECT
@@ -55,8 +55,8 @@ public:
     void setupContactListView();
     void setupNoContact();
     void setupTail();
-    /// Builds the page anew. `keepSelection` with a `contactId` (not -1) turns to the page of that contact and with a
-    /// `selectIdx` keeps a cell; without it, the first cell is selected.
+    /// Builds the page anew. `keepSelection` with a `contactId` (not -1) turns to the page of that contact and with
+    /// a `selectIdx` keeps a cell; without it, the first cell is selected.
     void setupListViewItems(bool keepSelection, int contactId, int selectIdx, bool reservedFlag);
     /// Turns one page on or back, around the ends.
     void setListViewPage(bool next);

@@ -11,8 +11,8 @@
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
-#include <QFile>
 #include <QDebug>
+#include <QFile>
 #include <QLabel>
 
 namespace {
@@ -148,8 +148,8 @@ void Contact::computePage(int found, int *cell, int *count)
 
 QPixmap Contact::rowPicture(const ContactData &contact) const
 {
-    const bool hasPhoto =
-        contact.type == ContactData::LocalContact && !contact.picture.isEmpty() && QFile::exists(contact.picture);
+    const bool hasPhoto
+        = contact.type == ContactData::LocalContact && !contact.picture.isEmpty() && QFile::exists(contact.picture);
     return hasPhoto ? Thumbnail::load(contact.picture) : QPixmap(":/contact/images/number_img_default.png");
 }
 
@@ -212,8 +212,8 @@ bool Contact::isLastPage() const
 
 void Contact::setListViewPage(bool next)
 {
-    const int total =
-        theCore->wpsmContactManager()->getCountOfContact() + theCore->contactManager()->getCountOfContact();
+    const int total
+        = theCore->wpsmContactManager()->getCountOfContact() + theCore->contactManager()->getCountOfContact();
     m_listView->setFocus(Qt::OtherFocusReason);
     if (next) {
         const int last = (total - 1) / TWO_COLUMN_LIST_ITEM_COUNT;
@@ -242,7 +242,7 @@ void Contact::focusChangedContactListViewItem(int idx)
     qDebug() << "Contact::focusChangedContactListViewItem" << idx;
 }
 
-void Contact::updateTail() {}
+void Contact::updateTail() { }
 
 void Contact::openPersonalPhonebook()
 {

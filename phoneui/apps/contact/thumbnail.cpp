@@ -12,8 +12,8 @@ namespace {
 const char folder[] = "/tmp/thumbnail_temp";
 constexpr int Side = 32; // pixels
 
-/// Where the thumbnail lies: the photo's path without its root behind the folder's name. For an album picture nothing
-/// separates the two, which is all one as long as everyone asks here.
+/// Where the thumbnail lies: the photo's path without its root behind the folder's name. For an album picture
+/// nothing separates the two, which is all one as long as everyone asks here.
 QString pathOf(const QString &picture)
 {
     QString rest = picture;

@@ -4,8 +4,8 @@
 #include <QPixmap>
 #include <QString>
 
-/// Small pictures of local contacts' photos, kept under "/tmp/thumbnail_temp" so that a page of cells never decodes a
-/// full-size photo. The cache may vanish at any time; the next load makes it again.
+/// Small pictures of local contacts' photos, kept under "/tmp/thumbnail_temp" so that a page of cells never decodes
+/// a full-size photo. The cache may vanish at any time; the next load makes it again.
 namespace Thumbnail {
 
 /// Makes the thumbnail of a photo if the photo exists and its thumbnail does not.

@@ -22,8 +22,8 @@ class WpsmContactManager;
 
 /// The settings files that applications read and write by themselves.
 enum ConfigFileType {
-    SystemConfig = 0,  ///< locks, charset, kind of system: "Menu_Password/enable", "Security/CallLock"
-    SoundConfig = 1,   ///< volumes and tones
+    SystemConfig = 0, ///< locks, charset, kind of system: "Menu_Password/enable", "Security/CallLock"
+    SoundConfig = 1, ///< volumes and tones
     SettingsConfig = 2 ///< what the user chooses: "Settings/24HourTime", "Settings/Language"
 };
 

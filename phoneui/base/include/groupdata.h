@@ -11,7 +11,7 @@ struct GroupData
     static constexpr int UnassignedId = 1;
 
     GroupData() = default;
-    GroupData(int groupId, const QString &groupName) : id(groupId), name(groupName) {}
+    GroupData(int groupId, const QString &groupName) : id(groupId), name(groupName) { }
     GroupData(int groupId, const QString &groupName, const QString &groupBell)
         : id(groupId), name(groupName), bell(groupBell)
     {

@@ -7,12 +7,12 @@ class QEvent;
 
 /// The input modes, as the status bar shows them.
 enum IMEStatus {
-    IMEOff = 0,       ///< no text field has the focus
-    IMEFirst = 1,     ///< Korean under the Korean language, small letters under any other
-    IMESmall = 2,     ///< small letters
-    IMECapital = 3,   ///< capitals
-    IMEDigit = 4,     ///< digits
-    IMENumeric = 5,   ///< a number field: digits, "+", "*", "#"
+    IMEOff = 0, ///< no text field has the focus
+    IMEFirst = 1, ///< Korean under the Korean language, small letters under any other
+    IMESmall = 2, ///< small letters
+    IMECapital = 3, ///< capitals
+    IMEDigit = 4, ///< digits
+    IMENumeric = 5, ///< a number field: digits, "+", "*", "#"
     IMEReserved6 = 6, ///< of the phone's own input method
     IMEReserved7 = 7
 };

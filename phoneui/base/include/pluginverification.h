@@ -11,18 +11,18 @@
 #define PHONEUI_PLUGIN_DEBUG "false"
 #define PHONEUI_PLUGIN_BUILDKEY "arm linux g++-4 no-pkg-config"
 
-#define PHONEUI_PLUGIN_VERIFICATION_DATA                                                                          \
-    "pattern=" PHONEUI_PLUGIN_PATTERN "\n"                                                                        \
-    "version=" PHONEUI_PLUGIN_VERSION "\n"                                                                        \
-    "debug=" PHONEUI_PLUGIN_DEBUG "\n"                                                                            \
+#define PHONEUI_PLUGIN_VERIFICATION_DATA                                                                           \
+    "pattern=" PHONEUI_PLUGIN_PATTERN "\n"                                                                         \
+    "version=" PHONEUI_PLUGIN_VERSION "\n"                                                                         \
+    "debug=" PHONEUI_PLUGIN_DEBUG "\n"                                                                             \
     "buildkey=" PHONEUI_PLUGIN_BUILDKEY
 
 /// Placed once in a plug-in, at file scope.
-#define PHONEUI_EXPORT_PLUGIN_VERIFICATION                                                                        \
-    extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data();                                     \
-    extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()                                      \
-    {                                                                                                             \
-        return PHONEUI_PLUGIN_VERIFICATION_DATA;                                                                  \
+#define PHONEUI_EXPORT_PLUGIN_VERIFICATION                                                                         \
+    extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data();                                      \
+    extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()                                       \
+    {                                                                                                              \
+        return PHONEUI_PLUGIN_VERIFICATION_DATA;                                                                   \
     }
 
 #endif

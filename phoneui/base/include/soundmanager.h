@@ -18,7 +18,8 @@ public:
     /// Appends the files of the folder that fit the pattern ("*ring*", "*.wav"), sorted by name.
     void addRingDir(QList<QFileInfo> &files, const QString &folder, const QString &pattern) const;
 
-    /// Plays the file on the volume of the channel ("RING"), again and again with `repeat`; what played before ends.
+    /// Plays the file on the volume of the channel ("RING"), again and again with `repeat`; what played before
+    /// ends.
     void playSound(const QString &path, bool repeat, const QString &channel);
     /// Ends what plays; with `keepChannel` the channel stays reserved for the next sound.
     void stopSound(bool keepChannel);

@@ -46,11 +46,11 @@ QString pngText(const QImage &image)
 const QHash<QString, ControlServer::Command> &ControlServer::commands()
 {
     static const QHash<QString, Command> table{
-        {"press", {&ControlServer::press, 1}},       {"release", {&ControlServer::release, 1}},
-        {"text", {&ControlServer::text, 1}},         {"launch", {&ControlServer::launch, 1}},
-        {"send", {&ControlServer::send, 2}},         {"broadcast", {&ControlServer::broadcast, 1}},
-        {"shot", {&ControlServer::shot, 0}},         {"screen", {&ControlServer::screen, 0}},
-        {"sent", {&ControlServer::sent, 0}},         {"peek-sent", {&ControlServer::peekSent, 0}},
+        {"press", {&ControlServer::press, 1}},   {"release", {&ControlServer::release, 1}},
+        {"text", {&ControlServer::text, 1}},     {"launch", {&ControlServer::launch, 1}},
+        {"send", {&ControlServer::send, 2}},     {"broadcast", {&ControlServer::broadcast, 1}},
+        {"shot", {&ControlServer::shot, 0}},     {"screen", {&ControlServer::screen, 0}},
+        {"sent", {&ControlServer::sent, 0}},     {"peek-sent", {&ControlServer::peekSent, 0}},
         {"keymap", {&ControlServer::keyMap, 0}},
     };
     return table;
@@ -145,7 +145,8 @@ QJsonObject ControlServer::key(const QString &name, bool down)
     const int code = PhoneKey::code(name);
     if (code == 0)
         return bad(QString("there is no key \"%1\"").arg(name));
-    const bool repeated = down && m_keysDown.contains(code); // a client repeats a key that is held by pressing it again
+    const bool repeated
+        = down && m_keysDown.contains(code); // a client repeats a key that is held by pressing it again
     if (down)
         m_keysDown.insert(code);
     else

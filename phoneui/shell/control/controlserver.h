@@ -18,9 +18,10 @@ class WindowStack;
 
 /// Lets phonectl and phoneweb drive the phone over a local socket.
 ///
-/// A request is one JSON array a line, ["press","Up"]; its answer one JSON object a line, {"ok":true,"value":...} or
-/// {"ok":false,"error":"..."}. Requests are answered in order, each in an event of its own, so that a key that opens
-/// a screen with its own event loop holds up neither the next request nor its answer.
+/// A request is one JSON array a line, ["press","Up"]; its answer one JSON object a line, {"ok":true,"value":...}
+/// or
+/// {"ok":false,"error":"..."}. Requests are answered in order, each in an event of its own, so that a key that
+/// opens a screen with its own event loop holds up neither the next request nor its answer.
 class ControlServer : public QObject
 {
     Q_OBJECT

@@ -10,9 +10,10 @@ static constexpr int MostMessages = 1000; // nobody may ever ask
 
 MessageLog::MessageLog(QObject *parent) : QObject(parent)
 {
-    connect(theCore, &Core::appMsgSent, this, [this](const QString &target, const QString &command, const QByteArray &payload) {
-        add(target, command, QJsonArray::fromVariantList(AppPayload::decode(command, payload)));
-    });
+    connect(theCore, &Core::appMsgSent, this,
+            [this](const QString &target, const QString &command, const QByteArray &payload) {
+                add(target, command, QJsonArray::fromVariantList(AppPayload::decode(command, payload)));
+            });
     message_SetObserver([this](const Message &message) {
         QJsonArray args;
         for (const QVariant &argument : message.arguments)

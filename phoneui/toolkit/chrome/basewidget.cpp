@@ -26,7 +26,7 @@ BaseWidget::BaseWidget(QWidget *parent) : QDialog(parent, Qt::FramelessWindowHin
     tail->setVisible(true);
 }
 
-void BaseWidget::setupStatus() {}
+void BaseWidget::setupStatus() { }
 
 void BaseWidget::updateStatus()
 {
@@ -37,8 +37,8 @@ void BaseWidget::updateStatus()
 
     const QSettings system(theCore->configFileName(SystemConfig), QSettings::IniFormat);
     const bool menuLocked = system.value("Menu_Password/enable", false).toBool();
-    const int callLock =
-        theCore->getSystemType() == LockingSystemType ? system.value("Security/CallLock", 0).toInt() : 0;
+    const int callLock
+        = theCore->getSystemType() == LockingSystemType ? system.value("Security/CallLock", 0).toInt() : 0;
     status->setUIStatusLock(menuLocked);
     status->setUIStatusCallLock(callLock != 0);
 }
@@ -76,6 +76,6 @@ void BaseWidget::paintEvent(QPaintEvent *)
     QPainter(this).fillRect(QRect(QPoint(0, 0), QPoint(width() - 1, height() - 1)), QBrush(m_bgColor));
 }
 
-void BaseWidget::closeEvent(QCloseEvent *) {}
+void BaseWidget::closeEvent(QCloseEvent *) { }
 
-void BaseWidget::hideEvent(QHideEvent *) {}
+void BaseWidget::hideEvent(QHideEvent *) { }

@@ -321,7 +321,7 @@ void Status::timeout()
     ui->timeLabel->changeTimeBlinkFlag();
 }
 
-void Status::callTimeout() {}
+void Status::callTimeout() { }
 
 void Status::paintEvent(QPaintEvent *)
 {

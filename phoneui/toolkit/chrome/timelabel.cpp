@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QTime>
 
-TimeLabel::TimeLabel(QWidget *parent) : QLabel(parent) {}
+TimeLabel::TimeLabel(QWidget *parent) : QLabel(parent) { }
 
 QString TimeLabel::format() const
 {

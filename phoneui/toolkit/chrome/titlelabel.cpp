@@ -7,13 +7,13 @@
 namespace {
 
 constexpr int PaddingBlanks = 42;
-constexpr int PillGap = 6;   // between the words and the pill
+constexpr int PillGap = 6; // between the words and the pill
 constexpr int PillInset = 2; // of the number from the ends' pictures
 const QColor pillColor(0x55, 0x55, 0x55);
 
 }
 
-TitleLabel::TitleLabel(QWidget *parent) : QLabel(parent) {}
+TitleLabel::TitleLabel(QWidget *parent) : QLabel(parent) { }
 
 void TitleLabel::setText(const QString &text)
 {

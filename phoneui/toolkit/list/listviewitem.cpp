@@ -26,7 +26,7 @@ int ListViewItem::editTextLeftMargin()
     return 0;
 }
 
-void ListViewItem::setEditTextLeftMargin(int) {}
+void ListViewItem::setEditTextLeftMargin(int) { }
 
 void ListViewItem::setPixmap(QPixmap const &normal, QPixmap const &selected)
 {

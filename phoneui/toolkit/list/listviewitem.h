@@ -11,9 +11,9 @@ class QPainter;
 
 /// How the selected row shows that it is selected. List and row each carry one; either can ask for floating.
 enum eListViewItemFocusType {
-    ListViewFocusBar = 0,      ///< a solid bar, white on black
+    ListViewFocusBar = 0, ///< a solid bar, white on black
     ListViewFocusFloating = 1, ///< black on transparent inside a frame of corner images
-    ListViewFocusFlat = 2      ///< the floating colours without a frame
+    ListViewFocusFlat = 2 ///< the floating colours without a frame
 };
 
 /// A row of a ListView: neither widget nor QObject, owned by its list and painted by it.

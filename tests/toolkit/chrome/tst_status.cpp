@@ -82,12 +82,11 @@ void StatusTest::indicatorsAreKeptButSilentInACall()
 void StatusTest::onAndOffIndicatorsTellChanges()
 {
     using Setter = void (Status::*)(bool);
-    const Setter setters[] = {&Status::setUIStatusLock,          &Status::setUIStatusCallLock,
-                              &Status::setUIStatusCallForward,   &Status::setUIStatusDND,
-                              &Status::setUIStatusAutoAnswer,    &Status::setUIStatusCallHold,
-                              &Status::setUIStatusUpgrade,       &Status::setUIStatusConnectMobile,
-                              &Status::setUIStatusConnectAOM,    &Status::setUIStatusConnectNVC,
-                              &Status::setUIStatusCall};
+    const Setter setters[]
+        = {&Status::setUIStatusLock,       &Status::setUIStatusCallLock,      &Status::setUIStatusCallForward,
+           &Status::setUIStatusDND,        &Status::setUIStatusAutoAnswer,    &Status::setUIStatusCallHold,
+           &Status::setUIStatusUpgrade,    &Status::setUIStatusConnectMobile, &Status::setUIStatusConnectAOM,
+           &Status::setUIStatusConnectNVC, &Status::setUIStatusCall};
     int shown = 0;
     for (const Setter setter : setters) {
         QSignalSpy changed(m_bar, &Status::statusInfoChanged);

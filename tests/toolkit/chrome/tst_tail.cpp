@@ -97,9 +97,8 @@ void TailTest::aHoldIsALongPressAndThenAClick()
     QStringList heard;
     connect(bar, &Tail::longPress, this, [&](int idx) { heard.append(QString("long %1").arg(idx)); });
     connect(bar, &Tail::clicked, this, [&](int idx) { heard.append(QString("click %1").arg(idx)); });
-    connect(bar, &Tail::pressed, this, [&](int idx, bool down) {
-        heard.append(QString("%1 %2").arg(down ? "down" : "up").arg(idx));
-    });
+    connect(bar, &Tail::pressed, this,
+            [&](int idx, bool down) { heard.append(QString("%1 %2").arg(down ? "down" : "up").arg(idx)); });
     press(Qt::Key_Context4);
     QTRY_COMPARE(heard, QStringList({"down 3", "long 3"}));
     QVERIFY(!bar->button(3)->isDown());
@@ -197,10 +196,11 @@ void TailTest::findsButtons()
 
 void TailTest::pictures()
 {
-    const QStringList texts{"Edit", "Create Group", "Add Contact", QString(), QString::fromUtf8("∨"),
-                            "ERASE", "X",            ">>",          ">",       "MSG_Erase"};
+    const QStringList texts{"Edit", "Create Group", "Add Contact", QString(),  QString::fromUtf8("∨"), "ERASE",
+                            "X",    ">>",           ">",           "MSG_Erase"};
     for (const int design : {0, 1}) {
-        QSettings(m_phone->core.configFileName(SettingsConfig), QSettings::IniFormat).setValue("Settings/Design", design);
+        QSettings(m_phone->core.configFileName(SettingsConfig), QSettings::IniFormat)
+            .setValue("Settings/Design", design);
         for (const bool down : {false, true}) {
             QImage all(384, 3 * 27, QImage::Format_RGB32);
             all.fill(Qt::white);
