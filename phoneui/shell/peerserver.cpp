@@ -43,7 +43,7 @@ void PeerServer::readMessages(QLocalSocket *peer)
             peer->abort();
             return;
         }
-        if (peer->bytesAvailable() < qint64(sizeof header + length))
+        if (peer->bytesAvailable() < qint64(sizeof header) + length)
             return;
         peer->skip(sizeof header);
         handOver(peer->read(length));

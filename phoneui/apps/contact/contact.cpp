@@ -38,7 +38,7 @@ Contact::Contact(QWidget *parent) : BaseWidget(parent), BaseAppInterface("contac
         m_selectListView->hide();
     }
 
-    setupStatus();
+    Contact::setupStatus();
     setupTail();
     connect(tail, &Tail::clicked, this, &Contact::tailFuncButtonClicked);
 }

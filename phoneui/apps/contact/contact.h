@@ -96,6 +96,7 @@ private:
     void pressedLeft(QKeyEvent *event);
     void pressedRight(QKeyEvent *event);
     void leaveManagingStep();
+    void backToChooser();
 
     void reload();
     void refreshIfVisible();

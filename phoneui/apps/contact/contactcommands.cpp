@@ -105,22 +105,26 @@ void Contact::leaveManagingStep()
 
 void Contact::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Escape) {
-        BaseWidget::keyReleaseEvent(event);
-    } else if (m_step == ManagingStep) {
+    const bool isEscape = event->key() == Qt::Key_Escape;
+    if (isEscape && m_step == ManagingStep) {
         leaveManagingStep();
         event->accept();
-    } else if (m_step == ListStep && m_systemPhonebookEnabled) {
-        m_listView->hide();
-        m_step = SelectStep;
-        m_selectListView->show();
-        m_selectListView->setFocus(Qt::OtherFocusReason);
-        setupTail();
-        setupStatus();
+    } else if (isEscape && m_step == ListStep && m_systemPhonebookEnabled) {
+        backToChooser();
         event->accept();
     } else {
         BaseWidget::keyReleaseEvent(event);
     }
+}
+
+void Contact::backToChooser()
+{
+    m_listView->hide();
+    m_step = SelectStep;
+    m_selectListView->show();
+    m_selectListView->setFocus(Qt::OtherFocusReason);
+    setupTail();
+    setupStatus();
 }
 
 int Contact::getContactTypeOfselectItem()

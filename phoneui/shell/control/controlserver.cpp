@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int LongestRequest = 64 * 1024;
-constexpr qint64 MostUnsent = 1024 * 1024; // a watcher that does not read gets no further pictures
+constexpr int MostUnsent = 1024 * 1024; // a watcher that does not read gets no further pictures
 
 QJsonObject good(const QJsonValue &value = QJsonValue::Null)
 {
