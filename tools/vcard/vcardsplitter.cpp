@@ -49,7 +49,7 @@ QByteArray plainForm(const QByteArray &line, bool continued)
     text.remove(group);
     text.replace(dataAddress, QStringLiteral("PHOTO;ENCODING=b;TYPE=\\1:"));
     if (text.contains(categories))
-        text.replace(escapedComma, QStringLiteral("\\\\\\\\,"));
+        text.replace(escapedComma, QStringLiteral("\\\\,"));
     return text.toLatin1();
 }
 
