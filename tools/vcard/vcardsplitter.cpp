@@ -4,12 +4,12 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
-#include <memory>
-
 namespace {
 
 // A card with a large photo stays far below this; what goes beyond is no card.
 constexpr int LargestCard = 16 * 1024 * 1024;
+// The device makes room for this much before it knows how long a line is.
+constexpr int LinePiece = 4096;
 
 bool isLine(const QByteArray &line, const char *text)
 {
@@ -49,7 +49,7 @@ QByteArray plainForm(const QByteArray &line, bool continued)
     text.remove(group);
     text.replace(dataAddress, QStringLiteral("PHOTO;ENCODING=b;TYPE=\\1:"));
     if (text.contains(categories))
-        text.replace(escapedComma, QStringLiteral("\\\\\\\\,"));
+        text.replace(escapedComma, QStringLiteral("\\\\,"));
     return text.toLatin1();
 }
 
@@ -62,7 +62,12 @@ bool opensInnerCard(const QByteArray &line)
 
 bool VCardSplitter::readLine(QByteArray *line)
 {
-    *line = m_device->readLine(LargestCard);
+    line->clear();
+    QByteArray piece;
+    do {
+        piece = m_device->readLine(LinePiece);
+        *line += piece;
+    } while (!piece.isEmpty() && !line->endsWith('\n') && line->size() < LargestCard);
     if (line->isEmpty())
         return false;
     if (m_line == 0 && line->startsWith("\xef\xbb\xbf"))

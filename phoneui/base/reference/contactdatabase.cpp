@@ -17,16 +17,16 @@ const SqliteSchema &contactSchema()
     // of the groups table, because a group may go while members still name it.
     static const SqliteSchema schema
         = {ApplicationId,
-           {{"CREATE TABLE contacts (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT, picture TEXT, email1 TEXT,"
-             " email2 TEXT, email3 TEXT, memo TEXT, bell TEXT, buddy_id TEXT, extra TEXT)",
-             "CREATE TABLE numbers (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,"
-             " slot INTEGER NOT NULL CHECK (slot BETWEEN 1 AND 10),"
-             " kind INTEGER NOT NULL CHECK (kind BETWEEN 0 AND 4), number TEXT NOT NULL,"
-             " PRIMARY KEY (contact_id, slot)) WITHOUT ROWID",
-             "CREATE TABLE groups (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT NOT NULL UNIQUE, bell TEXT)",
-             "CREATE TABLE memberships (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,"
-             " position INTEGER NOT NULL, group_id INTEGER NOT NULL,"
-             " PRIMARY KEY (contact_id, position)) WITHOUT ROWID",
+           {{R"(CREATE TABLE contacts (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT, picture TEXT,
+                 email1 TEXT, email2 TEXT, email3 TEXT, memo TEXT, bell TEXT, buddy_id TEXT, extra TEXT))",
+             R"(CREATE TABLE numbers (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,
+                 slot INTEGER NOT NULL CHECK (slot BETWEEN 1 AND 10),
+                 kind INTEGER NOT NULL CHECK (kind BETWEEN 0 AND 4), number TEXT NOT NULL,
+                 PRIMARY KEY (contact_id, slot)) WITHOUT ROWID)",
+             R"(CREATE TABLE groups (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT NOT NULL UNIQUE, bell TEXT))",
+             R"(CREATE TABLE memberships (contact_id INTEGER NOT NULL REFERENCES contacts (id) ON DELETE CASCADE,
+                 position INTEGER NOT NULL, group_id INTEGER NOT NULL,
+                 PRIMARY KEY (contact_id, position)) WITHOUT ROWID)",
              "CREATE INDEX contacts_by_name ON contacts (name)",
              "CREATE INDEX numbers_by_number ON numbers (number, contact_id)",
              "CREATE UNIQUE INDEX memberships_by_group ON memberships (group_id, contact_id)",

@@ -43,6 +43,22 @@ bool appendArgument(QByteArray &out, const QByteArray &kind, const QVariant &val
     return true;
 }
 
+/// The arguments of message_Make as values; false when a text is null.
+bool takeArguments(const QList<QByteArray> &kinds, QVariantList *values, va_list arguments)
+{
+    for (const QByteArray &kind : kinds) {
+        if (kind == IntKind) {
+            values->append(va_arg(arguments, int));
+            continue;
+        }
+        const char *text = va_arg(arguments, const char *);
+        if (!text)
+            return false;
+        values->append(QByteArray(text));
+    }
+    return true;
+}
+
 /// Takes pieces off the front of a message; a piece that is not there whole fails.
 class Reader
 {
@@ -140,16 +156,7 @@ int message_Make(char *buffer, int bufferSize, const char *address, const char *
 
     va_list arguments;
     va_start(arguments, signature);
-    bool complete = true;
-    for (const QByteArray &kind : qAsConst(kinds)) {
-        if (kind == IntKind) {
-            message.arguments.append(va_arg(arguments, int));
-            continue;
-        }
-        const char *text = va_arg(arguments, const char *);
-        complete = complete && text;
-        message.arguments.append(QByteArray(text));
-    }
+    const bool complete = takeArguments(kinds, &message.arguments, arguments);
     va_end(arguments);
 
     const QByteArray out = complete ? message_MakeFromValues(message) : QByteArray();

@@ -12,8 +12,8 @@ static const SqliteSchema &callSchema()
 {
     static const SqliteSchema schema
         = {ApplicationId,
-           {{"CREATE TABLE calls (id INTEGER PRIMARY KEY, number TEXT, name TEXT, direction INTEGER NOT NULL,"
-             " started_at INTEGER NOT NULL, seconds INTEGER NOT NULL)",
+           {{R"(CREATE TABLE calls (id INTEGER PRIMARY KEY, number TEXT, name TEXT, direction INTEGER NOT NULL,
+                 started_at INTEGER NOT NULL, seconds INTEGER NOT NULL))",
              "CREATE INDEX calls_by_number ON calls (number, started_at)",
              "CREATE INDEX calls_by_time ON calls (started_at)"}},
            {"SELECT " CALL_COLUMNS " FROM calls"}};

@@ -17,7 +17,7 @@ struct SqliteSchema
 {
     /// Stands in the file's header and tells it from the files of other programs.
     int applicationId = 0;
-    /// The n-th entry leads from `user_version` n to n + 1; statements by line of thought, run in one transaction.
+    /// The n-th entry leads from `user_version` n to n + 1; its statements run in one transaction.
     QList<QStringList> migrations;
     /// Statements that can be prepared only where every table has every column.
     QStringList probes;
