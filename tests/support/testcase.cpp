@@ -23,7 +23,7 @@ void TestCase::cleanup()
 {
     QStringList left;
     tearDown();
-    if (qGuiApp) {
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         const QWindowList windows = QGuiApplication::topLevelWindows();
         for (const QWindow *window : windows) {
             if (window->isVisible())
