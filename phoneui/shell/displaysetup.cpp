@@ -16,6 +16,8 @@ namespace DisplaySetup {
 void prepareEnvironment(const QString &platform)
 {
     qputenv("QT_FONT_DPI", "72");
+    // One event dispatcher everywhere, the phone's own: another library's has other ideas of nested event loops.
+    qputenv("QT_NO_GLIB", "1");
     if (!platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", platform.toLocal8Bit());
     else if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

@@ -9,7 +9,7 @@ namespace DisplaySetup {
 
 constexpr QSize Size(384, 160);
 
-/// Before QApplication: sets the resolution, and the offscreen platform unless `platform` or the environment names
+/// Before QApplication: sets the resolution and the event dispatcher, and the offscreen platform unless `platform` or the environment names
 /// another.
 void prepareEnvironment(const QString &platform = QString());
 
