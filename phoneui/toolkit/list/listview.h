@@ -182,6 +182,12 @@ protected:
 
     /// False for a disabled row and for an index without a row.
     bool isRowEnabled(int idx) const;
+    /// The room that the scroll bar takes, 0 without one.
+    int scrollWidth() const;
+    /// Where a row of the page stands.
+    QRect rowRect(int idx) const;
+    /// Draws the scroll bar of a list that has one.
+    void paintScrollBar(QPainter *painter, const QColor &thumbColor);
     /// Tells the row, ahead of its paint, where it stands and how the list is.
     void prepareRow(ListViewItem *row, const QRect &rect, int scrollWidth);
     /// Fills the list with its colour and picture.
@@ -208,9 +214,6 @@ private:
     void clickSelected(QKeyEvent *event);
     void clickByFuncKey(QKeyEvent *event);
 
-    int scrollWidth() const;
-    QRect rowRect(int idx) const;
-    void paintScrollBar(QPainter *painter);
     void paintRows(QPainter *painter);
     void paintSeparator(QPainter *painter, const ListViewItem *row, const QRect &rect);
     void paintEdgeLines(QPainter *painter);
