@@ -108,7 +108,18 @@ void ImageButton::paintEvent(QPaintEvent *)
         RowPainting::drawCentred(&painter, textRect, left, icon);
         textRect.setLeft(left + icon.width() + m_leftGap);
     }
-    painter.setFont(SoftKeyPainting::fittedFont(font(), m_text, textRect.width()));
-    painter.setPen(SoftKeyPainting::textColor(m_hover));
+    const QFont textFont = SoftKeyPainting::fittedFont(font(), m_text, textRect.width());
+    if (icon.isNull() && QFontMetrics(textFont).horizontalAdvance(m_text) > textRect.width())
+        textRect.setRect(0, textRect.top(), width(), textRect.height()); // rather a whole word than free gaps
+    painter.setFont(textFont);
+    painter.setPen(textColor());
     RowPainting::drawElided(&painter, textRect, Qt::AlignCenter, m_text);
+}
+
+QColor ImageButton::textColor() const
+{
+    static constexpr int MiddleLightness = 127;
+    if (m_hover || !m_bgColor.isValid())
+        return SoftKeyPainting::textColor(m_hover);
+    return m_bgColor.lightness() > MiddleLightness ? Qt::black : Qt::white;
 }

@@ -44,6 +44,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QColor textColor() const;
+
     QPixmap m_icon;
     QPixmap m_pressIcon;
     QString m_text;

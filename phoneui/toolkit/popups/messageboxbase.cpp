@@ -2,6 +2,7 @@
 
 #include "imagebutton.h"
 #include "messageboxbackground.h"
+#include "softkeypainting.h"
 
 #include "core.h"
 #include "keyinjection.h"
@@ -28,9 +29,17 @@ constexpr int AdditionalLeft = 90, OkLeft = 185, CancelLeft = 280;
 constexpr int ButtonTop = 106;
 constexpr QSize ButtonSize(95, 27);
 
-constexpr int TextPointSize = 20;
+constexpr int TextPointSize = SoftKeyPainting::PointSize;
 constexpr int TitleHeight = 28;
 constexpr Qt::Alignment Middle = Qt::AlignHCenter | Qt::AlignVCenter;
+
+/// Chooses the label's font for its text: a single line that is too wide is written one step smaller.
+void fitFont(QLabel *label)
+{
+    QFont font = label->font();
+    font.setPointSize(TextPointSize);
+    label->setFont(label->wordWrap() ? font : SoftKeyPainting::fittedFont(font, label->text(), label->width()));
+}
 
 /// Gives the label a place in which its text may take several lines, or one line alone.
 void place(QLabel *label, const QRect &geometry, Qt::Alignment alignment, bool severalLines)
@@ -38,6 +47,7 @@ void place(QLabel *label, const QRect &geometry, Qt::Alignment alignment, bool s
     label->setGeometry(geometry);
     label->setAlignment(alignment);
     label->setWordWrap(severalLines);
+    fitFont(label);
 }
 
 }
@@ -139,6 +149,8 @@ void MessageBoxBase::setMessage(const QString &text)
     m_messageLabel->setText(text);
     if (m_subMessageLabel->text().isEmpty())
         place(m_messageLabel, LoneTextGeometry, Middle, true);
+    else
+        fitFont(m_messageLabel);
 }
 
 void MessageBoxBase::setSubMessage(const QString &text)

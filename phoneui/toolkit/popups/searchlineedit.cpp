@@ -52,6 +52,8 @@ void SearchLineEdit::setGeometry(int x, int y, int w, int h)
     QWidget::setGeometry(x, y, w, h);
     m_lineEditRect = QRect(EditTopLeft, QPoint(width() - 1 - EditFromRight, height() - 1 - EditFromBottom));
     m_lineEdit->setGeometry(m_lineEditRect);
+    const QRect line = textRect();
+    m_lineEdit->setTextMargins(0, line.top() - m_lineEditRect.top(), 0, m_lineEditRect.bottom() - line.bottom());
 }
 
 void SearchLineEdit::focusInEvent(QFocusEvent *)
@@ -103,12 +105,23 @@ void SearchLineEdit::paintGlass(QPainter *painter) const
     RowPainting::drawCentred(painter, end, left, glass);
 }
 
+QRect SearchLineEdit::textRect() const
+{
+    // A line of the font is higher than the usual field. Its lowest pixel is free; the rest of what is too much
+    // goes above, where only accents of capitals reach.
+    static constexpr int FreeBelow = 1;
+
+    QRect line = EditFieldGeometry::textOf(m_lineEditRect, fontMetrics().height());
+    if (line.height() > m_lineEditRect.height())
+        line.moveBottom(m_lineEditRect.bottom() + FreeBelow);
+    return line;
+}
+
 void SearchLineEdit::paintText(QPainter *painter) const
 {
-    QRect field = m_lineEditRect;
+    QRect line = textRect();
     if (!m_searchLineMode)
-        field.setRight(width() - 1 - EditTopLeft.x());
+        line.setRight(width() - 1 - line.left());
     painter->setPen(Qt::black);
-    RowPainting::drawElided(painter, EditFieldGeometry::textOf(field, painter->fontMetrics().height()),
-                            Qt::AlignLeft | Qt::AlignTop, m_lineEdit->displayText());
+    RowPainting::drawElided(painter, line, Qt::AlignLeft | Qt::AlignTop, m_lineEdit->displayText());
 }

@@ -37,6 +37,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Where the line of text stands, with the line edit and without.
+    QRect textRect() const;
     void paintGlass(QPainter *painter) const;
     void paintText(QPainter *painter) const;
 

@@ -13,7 +13,7 @@ const QColor dimmed(0, 0, 0, 90);
 
 QPropertyAnimation *makeAnimation(QObject *box, const char *property, int time, const QEasingCurve &easing)
 {
-    auto *animation = new QPropertyAnimation(box, property);
+    auto *animation = new QPropertyAnimation(box, property, box);
     animation->setDuration(time);
     animation->setEasingCurve(easing);
     return animation;
@@ -38,13 +38,6 @@ SlideMessageBox::SlideMessageBox(QWidget *parent)
     connect(m_backgroundAnimation, &QPropertyAnimation::finished, this, &SlideMessageBox::showAnimationFinished);
     setUseBackGroundRect(false);
     setBackgroundColor(clear);
-}
-
-SlideMessageBox::~SlideMessageBox()
-{
-    delete m_showAnimation;
-    delete m_hideAnimation;
-    delete m_backgroundAnimation;
 }
 
 void SlideMessageBox::setBackgroundColor(const QColor &color)

@@ -14,7 +14,6 @@ class SlideMessageBox : public MessageBoxBase
 
 public:
     explicit SlideMessageBox(QWidget *parent);
-    ~SlideMessageBox() override;
 
     /// What dims the screen; not the base's colour.
     QColor getBackgroundColor() const { return m_backgroundColor; }
