@@ -378,12 +378,8 @@ void SelectPopupBase::acceptAfterAnimation()
 
 void SelectPopupBase::paintEvent(QPaintEvent *)
 {
-    static constexpr int PlateTop = 2, TitleDrop = 32;
+    static constexpr int PlateTop = 2;
     QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(rect(), Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-
     const auto picture
         = [](const char *part) { return QPixmap(QString(":ui/images/widget/popup_01_%1.png").arg(part)); };
     const QPixmap left = picture("left"), middle = picture("mid"), right = picture("right");
@@ -392,9 +388,20 @@ void SelectPopupBase::paintEvent(QPaintEvent *)
     painter.drawTiledPixmap(left.width(), PlateTop, rightEdge - left.width(), middle.height(), middle);
     painter.drawPixmap(rightEdge, PlateTop, right);
 
-    if (!m_contentsTitle.isEmpty()) {
-        painter.setFont(m_contentsTitleFont);
-        painter.setPen(Qt::white);
-        painter.drawText(m_contentsTitleX, m_contentsTitleY + TitleDrop, m_contentsTitle);
-    }
+    if (!m_contentsTitle.isEmpty())
+        paintTitle(&painter, left.width(), rightEdge - 1);
+}
+
+/// The title's letters are white, and stand on a band across the white plate.
+void SelectPopupBase::paintTitle(QPainter *painter, int left, int right)
+{
+    static constexpr int Drop = 32, BandMargin = 1;
+    painter->setFont(m_contentsTitleFont);
+    const QFontMetrics metrics = painter->fontMetrics();
+    const int baseline = m_contentsTitleY + Drop;
+    painter->fillRect(
+        corners(left, baseline - metrics.ascent() - BandMargin, right, baseline + metrics.descent() + BandMargin),
+        Qt::black);
+    painter->setPen(Qt::white);
+    painter->drawText(m_contentsTitleX, baseline, m_contentsTitle);
 }

@@ -110,6 +110,7 @@ private:
     ImageButton *button(Button which) const;
     void leave(Slot plain, Slot afterAnimation);
     void finishLeaving(Slot plain, Slot afterAnimation);
+    void paintTitle(QPainter *painter, int left, int right);
     void plainHide();
     void plainClose();
     void plainReject();
