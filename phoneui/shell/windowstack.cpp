@@ -40,10 +40,8 @@ bool WindowStack::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Hide:
-    case QEvent::ZOrderChange:
-        break;
-    default:
-        return false;
+    case QEvent::ZOrderChange: break;
+    default: return false;
     }
     auto *window = qobject_cast<QWidget *>(watched);
     if (!window || !window->isWindow())
@@ -76,6 +74,12 @@ void WindowStack::remove(QWidget *window)
 void WindowStack::activateTop()
 {
     QWidget *window = top();
-    if (window && QApplication::activeWindow() != window)
+    if (!window || QApplication::activeWindow() == window)
+        return;
+    // A window that went and came again within one event has kept the platform's focus, and the platform tells of
+    // changes alone.
+    if (QGuiApplication::focusWindow() == window->windowHandle())
+        QApplication::setActiveWindow(window);
+    else
         window->activateWindow();
 }
