@@ -74,6 +74,12 @@ void WindowStack::remove(QWidget *window)
 void WindowStack::activateTop()
 {
     QWidget *window = top();
-    if (window && QApplication::activeWindow() != window)
+    if (!window || QApplication::activeWindow() == window)
+        return;
+    // A window that went and came again within one event has kept the platform's focus, and the platform tells of
+    // changes alone.
+    if (QGuiApplication::focusWindow() == window->windowHandle())
+        QApplication::setActiveWindow(window);
+    else
         window->activateWindow();
 }
