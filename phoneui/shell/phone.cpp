@@ -3,6 +3,7 @@
 #include "apps/idle/idle.h"
 #include "control/controlserver.h"
 #include "control/messagelog.h"
+#include "control/toastlog.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,7 +13,7 @@ static constexpr QRect StatusGeometry(0, 0, 384, 26);
 
 Phone::Phone(const PhoneHome &home, QObject *parent)
     : QObject(parent), m_core(home), m_display(&m_windows), m_keyMap(home.path("config/keymap.ini")),
-      m_log(new MessageLog)
+      m_log(new MessageLog), m_toasts(new ToastLog)
 {
     m_status.setGeometry(StatusGeometry);
     m_core.setStatusWidget(&m_status);
@@ -47,8 +48,8 @@ bool Phone::openSockets()
         qWarning("A phone is already running in %s", qPrintable(home.root()));
         return false;
     }
-    m_control.reset(new ControlServer(
-        {&m_windows, &m_display, &m_keyMap, m_log.get(), [this](const QString &name) { return launch(name); }}));
+    m_control.reset(new ControlServer({&m_windows, &m_display, &m_keyMap, m_log.get(), m_toasts.get(),
+                                       [this](const QString &name) { return launch(name); }}));
     return m_peers.listen(home.peerSocket()) && m_control->listen(home.controlSocket());
 }
 

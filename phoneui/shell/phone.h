@@ -17,6 +17,7 @@
 
 class ControlServer;
 class MessageLog;
+class ToastLog;
 
 /// One phone: the platform, the display with its status bar and keys, the applications, and the sockets over which
 /// it is driven. Made after QApplication and gone before it.
@@ -46,6 +47,7 @@ private:
     KeyMap m_keyMap;
     PeerServer m_peers;
     std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<ToastLog> m_toasts;
     std::unique_ptr<ControlServer> m_control;
     PluginHost m_plugins;
     QHash<QString, std::function<BaseAppInterface *()>> m_makers; ///< applications of the shell's own

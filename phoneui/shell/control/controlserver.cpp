@@ -7,6 +7,7 @@
 #include "messagelog.h"
 #include "phonekey.h"
 #include "screenreport.h"
+#include "toastlog.h"
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -147,6 +148,8 @@ QJsonObject ControlServer::key(const QString &name, bool down)
         return bad(QString("there is no key \"%1\"").arg(name));
     const bool repeated
         = down && m_keysDown.contains(code); // a client repeats a key that is held by pressing it again
+    if (down && !repeated)
+        m_phone.toasts->clear();
     if (down)
         m_keysDown.insert(code);
     else
@@ -206,7 +209,7 @@ QJsonObject ControlServer::shot(const QStringList &)
 
 QJsonObject ControlServer::screen(const QStringList &)
 {
-    return good(screenReport(*m_phone.windows, theCore->statusWidget()));
+    return good(screenReport(*m_phone.windows, theCore->statusWidget(), *m_phone.toasts));
 }
 
 QJsonObject ControlServer::sent(const QStringList &)

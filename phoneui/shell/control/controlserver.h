@@ -14,6 +14,7 @@ class Display;
 class KeyMap;
 class MessageLog;
 class QLocalSocket;
+class ToastLog;
 class WindowStack;
 
 /// Lets phonectl and phoneweb drive the phone over a local socket.
@@ -34,6 +35,7 @@ public:
         Display *display;
         KeyMap *keyMap;
         MessageLog *log;
+        ToastLog *toasts;
         std::function<bool(const QString &)> launch;
     };
 

@@ -3,9 +3,14 @@
 #include "baseappinterface.h"
 #include "basewidget.h"
 #include "gridselectview.h"
+#include "imagebutton.h"
 #include "listview.h"
+#include "messageboxbase.h"
+#include "selectpopup.h"
 #include "status.h"
 #include "tail.h"
+#include "toast.h"
+#include "toastlog.h"
 #include "windowstack.h"
 
 #include <QApplication>
@@ -83,9 +88,69 @@ QJsonArray softKeys(const BaseWidget *screen)
     return texts;
 }
 
+/// The texts of those buttons that show.
+QJsonArray buttonTexts(const QList<ImageButton *> &buttons)
+{
+    QJsonArray texts;
+    for (ImageButton *button : buttons) {
+        if (!button->isHidden())
+            texts.append(button->text());
+    }
+    return texts;
 }
 
-QJsonObject screenReport(const WindowStack &windows, Status *status)
+QJsonObject boxReport(MessageBoxBase *box)
+{
+    const QString lines = box->subMessage().isEmpty() ? box->message() : box->message() + '\n' + box->subMessage();
+    return {{"title", box->getTitle()},
+            {"message", lines},
+            {"buttons", buttonTexts({box->additionalButton(), box->okButton(), box->cancelButton()})},
+            {"rows", QJsonArray()},
+            {"selected", -1}};
+}
+
+QJsonObject listPopupReport(SelectPopupBase *popup)
+{
+    auto *list = popup->findChild<ListView *>();
+    return {{"title", QString()},
+            {"message", QString()},
+            {"buttons", buttonTexts({popup->nextButton(), popup->okButton(), popup->cancelButton()})},
+            {"rows", rowTexts(list)},
+            {"selected", list->selectedIdx()}};
+}
+
+/// The topmost window above the screen, as far as it is a box or a popup.
+QJsonValue popupReport(const WindowStack &windows, const BaseWidget *screen)
+{
+    const QList<QWidget *> stack = windows.windows();
+    for (int i = stack.size() - 1; i >= 0 && stack.at(i) != screen; --i) {
+        QJsonObject report;
+        if (auto *box = qobject_cast<MessageBoxBase *>(stack.at(i)))
+            report = boxReport(box);
+        else if (auto *popup = qobject_cast<SelectPopupBase *>(stack.at(i)))
+            report = listPopupReport(popup);
+        else
+            continue;
+        report["class"] = className(stack.at(i));
+        return report;
+    }
+    return QJsonValue::Null;
+}
+
+QJsonValue toastReport()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        auto *toast = qobject_cast<Toast *>(widget);
+        if (toast && toast->isVisible())
+            return toast->message();
+    }
+    return QJsonValue::Null;
+}
+
+}
+
+QJsonObject screenReport(const WindowStack &windows, Status *status, const ToastLog &toasts)
 {
     BaseWidget *screen = activeScreen(windows);
     QJsonObject report{
@@ -98,9 +163,9 @@ QJsonObject screenReport(const WindowStack &windows, Status *status)
         {"start", 0},
         {"size", 0},
         {"edit", QJsonValue::Null},
-        {"popup", QJsonValue::Null},
-        {"toast", QJsonValue::Null},
-        {"toasts", QJsonArray()},
+        {"popup", popupReport(windows, screen)},
+        {"toast", toastReport()},
+        {"toasts", toasts.texts()},
         {"focus", className(QApplication::focusWidget())},
     };
     if (ListView *list = screen ? activeList(screen) : nullptr) {

@@ -45,9 +45,28 @@ void BaseWidget::updateStatus()
 
 bool BaseWidget::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         setupStatus();
+    } else if (event->type() == QEvent::Hide) {
+        ++m_hideCount;
+        closeOwnedWindows();
+    }
     return QWidget::event(event);
+}
+
+/// A box left open above a closed screen would hold up the screen's event loop for as long as nobody answers it.
+void BaseWidget::closeOwnedWindows()
+{
+    QList<QPointer<QWidget>> owned;
+    const QList<QWidget *> children = findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (child->isWindow())
+            owned.prepend(child);
+    }
+    for (const QPointer<QWidget> &window : qAsConst(owned)) {
+        if (window && window->isVisible())
+            window->close();
+    }
 }
 
 void BaseWidget::keyPressEvent(QKeyEvent *event)

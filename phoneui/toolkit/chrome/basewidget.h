@@ -11,7 +11,8 @@ class Tail;
 /// The base of every full screen: the 384 by 134 pixels below the status bar, with a soft-key bar of its own.
 ///
 /// It hands the soft keys to the bar, closes on the release of Escape, and calls `setupStatus` whenever it becomes
-/// the active window, so that the right title is back after a screen on top has gone.
+/// the active window, so that the right title is back after a screen on top has gone. When it hides, whatever it
+/// has opened above itself goes with it.
 class BaseWidget : public QDialog
 {
     Q_OBJECT
@@ -21,6 +22,9 @@ public:
 
     QColor bgColor() const { return m_bgColor; }
     void setBgColor(QColor const &color) { m_bgColor = color; }
+
+    /// How often the screen has been closed or hidden; see ScreenWatch.
+    int hideCount() const { return m_hideCount; }
 
     /// Brings the lock signs and the form of the clock on the status bar up to date with the settings.
     void updateStatus();
@@ -39,7 +43,10 @@ protected:
     Tail *tail = nullptr;
 
 private:
+    void closeOwnedWindows();
+
     QColor m_bgColor = Qt::white;
+    int m_hideCount = 0;
 };
 
 #endif

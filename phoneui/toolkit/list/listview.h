@@ -219,6 +219,7 @@ private:
     void paintEdgeLines(QPainter *painter);
 
     QLineEdit *createOverlay();
+    void takeFocus(QWidget *widget);
     void hideOverlay(QLineEdit *overlay);
     void showOverlay(QLineEdit *overlay, const QString &text, const QRect &rect);
     void setEditValidator(QValidator *validator);

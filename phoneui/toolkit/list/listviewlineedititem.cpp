@@ -88,19 +88,25 @@ QString ListViewLineEditItem::shownText() const
     return m_echoPasswordMode ? QString(m_editText.size(), QLatin1Char('*')) : m_editText;
 }
 
-void ListViewLineEditItem::paint(QPainter *painter, QRect &rect)
+void ListViewLineEditItem::paintTitleAndField(QPainter *painter, const QRect &rect, const QRect &edit,
+                                              const QColor &titleColor)
 {
     static constexpr int Gap = 4;
 
     painter->save();
     paintGround(painter, rect);
-    const QRect edit = EditFieldGeometry::lineEdit(rect, m_editTextLeftMargin);
     const QColor ink = painter->pen().color();
-    if (!selected() && isSelectEnabled())
-        painter->setPen(m_labelColor);
+    painter->setPen(titleColor.isValid() ? titleColor : ink);
     FormPainting::drawTitle(painter, rect, FormPainting::fieldRect(edit).left() - Gap, alignment(), text());
     painter->setPen(ink);
     RowPainting::setPointSize(painter, FormPainting::FieldPoints);
     FormPainting::drawField(painter, edit, selected(), shownText());
     painter->restore();
+}
+
+void ListViewLineEditItem::paint(QPainter *painter, QRect &rect)
+{
+    const bool plain = !selected() && isSelectEnabled();
+    paintTitleAndField(painter, rect, EditFieldGeometry::lineEdit(rect, m_editTextLeftMargin),
+                       plain ? m_labelColor : QColor());
 }

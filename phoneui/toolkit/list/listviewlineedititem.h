@@ -41,6 +41,9 @@ public:
 protected:
     /// The value as it is shown: stars for a password.
     QString shownText() const;
+    /// The whole look of the row, with the field where the line edit stands. Without a valid colour the title has
+    /// that of the row.
+    void paintTitleAndField(QPainter *painter, const QRect &rect, const QRect &edit, const QColor &titleColor);
 
 private:
     QString m_editText;

@@ -49,7 +49,7 @@ void ListView::checkFocus()
     }
     const int type = row->type();
     if (!RowKinds::hasTextField(type)) {
-        setFocus(Qt::OtherFocusReason);
+        takeFocus(this);
         hideOverlay(m_editOverlay);
     }
     if (type != RowKinds::TimeEdit)
@@ -79,13 +79,24 @@ QLineEdit *ListView::createOverlay()
     return overlay;
 }
 
+/// Moves the focus within the list. What lies over the list, such as a toast, keeps it: the list sorts out its
+/// focus a moment after the key, and by then something may have opened.
+void ListView::takeFocus(QWidget *widget)
+{
+    const QWidget *holder = window()->focusWidget();
+    const bool isElsewhere
+        = holder && holder->isVisible() && holder != this && !isAncestorOf(holder) && !holder->isAncestorOf(this);
+    if (!isElsewhere)
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
 void ListView::hideOverlay(QLineEdit *overlay)
 {
     if (!overlay)
         return;
     // The focus goes first: hiding the widget that has it would hand it to the next one of the window.
     if (overlay->isVisible())
-        setFocus(Qt::OtherFocusReason);
+        takeFocus(this);
     overlay->hide();
 }
 
@@ -137,7 +148,7 @@ void ListView::setUpLineEdit(ListViewItem *row)
         setEditValidator(new QRegExpValidator(ipAddress(), this));
     else if (field->isSipPortValidate())
         setEditValidator(new QIntValidator(LowestPort, HighestPort, this));
-    m_editOverlay->setFocus(Qt::OtherFocusReason);
+    takeFocus(m_editOverlay);
 }
 
 void ListView::setUpCheckLineEdit(ListViewItem *row)
@@ -151,7 +162,7 @@ void ListView::setUpCheckLineEdit(ListViewItem *row)
     fillEditOverlay(
         field,
         EditFieldGeometry::checkLineEdit(row->geometry(), field->editTextLeftMargin(), field->useTitleText()));
-    m_editOverlay->setFocus(Qt::OtherFocusReason);
+    takeFocus(m_editOverlay);
 }
 
 void ListView::setUpTimeEdit(ListViewItem *row)
@@ -168,7 +179,7 @@ void ListView::setUpTimeEdit(ListViewItem *row)
     showOverlay(m_timeOverlay, field->getTime(),
                 EditFieldGeometry::timeEdit(row->geometry(), field->use_ampmSelection()));
     m_timeOverlay->setCursorPosition(0);
-    m_timeOverlay->setFocus(Qt::OtherFocusReason);
+    takeFocus(m_timeOverlay);
 }
 
 void ListView::lineEditTextChanged(QString text)

@@ -164,6 +164,16 @@ void MessageBoxBase::setSubMessage(const QString &text)
     place(m_subMessageLabel, LowerTextGeometry, Qt::AlignHCenter | Qt::AlignBottom, false);
 }
 
+QString MessageBoxBase::message() const
+{
+    return m_messageLabel->text();
+}
+
+QString MessageBoxBase::subMessage() const
+{
+    return m_subMessageLabel->text();
+}
+
 void MessageBoxBase::setMessageAlignment(QFlags<Qt::AlignmentFlag> alignment)
 {
     m_messageLabel->setAlignment(alignment);

@@ -26,6 +26,8 @@ public:
     QString getTitle();
     void setMessage(const QString &text);
     void setSubMessage(const QString &text);
+    QString message() const;
+    QString subMessage() const;
     void setMessageAlignment(QFlags<Qt::AlignmentFlag> alignment);
     /// Gives the message the room of a longer, left-bound text.
     void setMessageMove();
