@@ -4,8 +4,13 @@
 #include "conffile.h"
 #include "contactmanager.h"
 #include "core.h"
+#include "detailsdial.h"
 #include "gridselectview.h"
+#include "grouplist.h"
+#include "messagebox.h"
+#include "numberedit.h"
 #include "pluginverification.h"
+#include "screenwatch.h"
 #include "status.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
@@ -60,8 +65,19 @@ bool Contact::start(QWidget *, void *)
     return true;
 }
 
+/// Closes the screens that this one has opened, and with each what that one has opened.
+void Contact::closeChildren()
+{
+    closeScreen(m_detailsDial);
+    closeScreen(m_groupList);
+    closeScreen(m_numberEdit);
+}
+
 void Contact::end()
 {
+    closeChildren();
+    if (m_messageBox)
+        m_messageBox->close();
     m_Directory = 0;
     theCore->setVisibleContact(false);
     if (isVisible())
@@ -133,7 +149,10 @@ void Contact::hideEvent(QHideEvent *)
         theCore->sendAppMsg("idle", "lowerStatus()", QByteArray(""));
         theCore->sendAppMsg("call", "HidePopup", QByteArray(""));
     }
+    closeChildren();
     theCore->sendAppMsg("call", "m_isContactOpenedOff()", QByteArray(""));
+    if (m_messageBox)
+        m_messageBox->close();
     theCore->setVisibleMenu(false);
     theCore->setVisibleContact(false);
 }

@@ -6,9 +6,16 @@
 #include "buddyidstatustype.h"
 #include "contactdata.h"
 
+#include <QPointer>
+
+class DetailsDial;
 class GridSelectView;
+class GroupList;
 class ListView;
 class ListViewItem;
+class MessageBox;
+class NumberEdit;
+class QDataStream;
 class QLabel;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
@@ -64,6 +71,9 @@ public:
 public slots:
     // Commands: contactcommands.cpp.
     void tailFuncButtonClicked(int idx);
+    void clickedListViewItem(int idx);
+    /// Dials the contact in a cell.
+    void clickedFuncKeyEvent(int idx);
     int getContactTypeOfselectItem();
     void focusChangedListViewItem(int idx);
     void clickedContactListViewItem(int idx);
@@ -98,14 +108,32 @@ private:
     void leaveManagingStep();
     void backToChooser();
 
+    MessageBox &messageBox();
+    void openGroups();
+    void editSelected();
+    void addContact();
+    void deleteSelected();
+    void deleteAll();
+    void closeAll();
+    void selectContact(int id);
+    bool showAfterDeletion();
+    void closeChildren();
+
     void reload();
     void refreshIfVisible();
-    void handleChangedLanguage();
-    void handlePhoneInit();
-    void handleContactChanged();
-    void handleMobileContactChanged();
-    void handleDevice();
-    void handleCloseContact();
+    void handleNewContact(QDataStream &payload);
+    void handleViewContact(QDataStream &payload);
+    void handleChangedLanguage(QDataStream &payload);
+    void handlePhoneInit(QDataStream &payload);
+    void handleContactChanged(QDataStream &payload);
+    void handleMobileContactChanged(QDataStream &payload);
+    void handlePictureAck(QDataStream &payload);
+    void handleDeviceConnected(QDataStream &payload);
+    void handleDeviceDisconnected(QDataStream &payload);
+    void handleBuddyStatus(QDataStream &payload);
+    void handleLogOut(QDataStream &payload);
+    void handleCloseContact(QDataStream &payload);
+    void contactChanged();
     void refreshPresence();
 
     int m_totalCount = 0;
@@ -114,6 +142,10 @@ private:
     int m_step = ListStep;
     QLabel *m_noContactLabel = nullptr;
     GridSelectView *m_listView = nullptr;
+    QPointer<DetailsDial> m_detailsDial;
+    QPointer<NumberEdit> m_numberEdit;
+    QPointer<GroupList> m_groupList;
+    MessageBox *m_messageBox = nullptr; ///< made on first use and kept
     QList<ContactData> m_allContactList; ///< merged, by name
     ListView *m_selectListView = nullptr;
     bool m_systemPhonebookEnabled = false;

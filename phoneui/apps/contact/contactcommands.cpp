@@ -2,13 +2,25 @@
 
 #include "contact.h"
 
+#include "contactmanager.h"
+#include "contactremoval.h"
 #include "core.h"
+#include "detailsdial.h"
 #include "gridselectview.h"
+#include "grouplist.h"
 #include "listviewcontactitem.h"
+#include "messagebox.h"
+#include "neighbours.h"
+#include "notices.h"
+#include "numberedit.h"
+#include "screenwatch.h"
 #include "tail.h"
+#include "wpsmcontactmanager.h"
 
 #include <QDebug>
 #include <QKeyEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -137,12 +149,189 @@ int Contact::getContactTypeOfselectItem()
     return cell->getContactType();
 }
 
+void Contact::clickedListViewItem(int idx)
+{
+    auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(idx));
+    if (!cell)
+        return;
+    const int id = cell->getId();
+    const int type = cell->getContactType();
+    runScreen(
+        m_detailsDial, this, [this, id, type] { return new DetailsDial(this, id, type); },
+        [this, id](DetailsDial *) {
+            reload();
+            setupListViewItems(true, id, 0, true);
+            setupTail();
+        });
+}
+
+void Contact::clickedFuncKeyEvent(int idx)
+{
+    auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(idx));
+    if (!cell)
+        return;
+    const ContactData contact = cell->getContactType() == ContactData::LocalContact
+        ? theCore->contactManager()->getSpecificContactDetail(cell->getId())
+        : theCore->wpsmContactManager()->getSpecificContactDetail(cell->getId());
+    if (Neighbours::isInCall())
+        return;
+    theCore->sendAppMsg("contact", "CloseContact()", QByteArray(""));
+    close();
+    Neighbours::dial(contact.telnum1, contact.name);
+}
+
 void Contact::tailFuncButtonClicked(int idx)
 {
     // The label decides, not the mode: a key does what it says.
-    if (idx == ModeKey && tail->funcButtonText(idx) == tr("Edit Mode"))
+    struct Action
+    {
+        int key;
+        QString label;
+        void (Contact::*run)();
+    };
+    const Action actions[] = {
+        {GroupsKey, tr("Groups"), &Contact::openGroups},      {GroupsKey, tr("Edit"), &Contact::editSelected},
+        {SearchKey, tr("Add Contact"), &Contact::addContact}, {ModeKey, tr("Delete"), &Contact::deleteSelected},
+        {PageKey, tr("Close"), &Contact::closeAll},
+    };
+    const ScreenWatch watch(this);
+    const QString label = tail->funcButtonText(idx);
+    const Action *found = std::find_if(std::begin(actions), std::end(actions), [&](const Action &action) {
+        return action.key == idx && action.label == label;
+    });
+    if (found != std::end(actions))
+        (this->*found->run)();
+    else if (idx == ModeKey && label == tr("Edit Mode"))
         m_step = ManagingStep;
     else if (idx == PageKey && m_step == ListStep)
         setListViewPage(true);
+    else if (idx == PageKey && label == tr("Delete All"))
+        deleteAll();
+    if (!watch.closed())
+        setupTail();
+}
+
+MessageBox &Contact::messageBox()
+{
+    if (!m_messageBox)
+        m_messageBox = new MessageBox(this);
+    return *m_messageBox;
+}
+
+void Contact::openGroups()
+{
+    runScreen(
+        m_groupList, this, [this] { return new GroupList(this); },
+        [this](GroupList *) {
+            setupStatus();
+            setupListViewItems(true, -1, qMax(0, m_listView->selectedIdx()), true);
+        });
+}
+
+void Contact::editSelected()
+{
+    auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(m_listView->selectedIdx()));
+    if (!cell)
+        return;
+    const int id = cell->getId();
+    runScreen(
+        m_numberEdit, this, [this, id] { return new NumberEdit(this, id, QString(), -1); },
+        [this, id](NumberEdit *) {
+            reload();
+            setupListViewItems(true, id, 0, true);
+        });
+}
+
+void Contact::addContact()
+{
+    runScreen(
+        m_numberEdit, this, [this] { return new NumberEdit(this, -1, QString(), -1); },
+        [this](NumberEdit *form) {
+            const int id = form->getSavedId();
+            const int cell = m_listView->selectedIdx();
+            reload();
+            if (id >= 0)
+                setupListViewItems(true, id, 0, true);
+            else if (cell >= 0)
+                setupListViewItems(true, -1, cell, true);
+            else
+                setupListViewItems(false, 0, 0, true);
+            setupTail();
+            selectContact(id);
+            m_listView->setFocus(Qt::OtherFocusReason);
+        });
+}
+
+/// Selects the cell of a contact on the page that shows.
+void Contact::selectContact(int id)
+{
+    for (int i = 0; i < m_listView->itemSize(); ++i) {
+        auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(i));
+        if (cell && cell->getId() == id) {
+            m_listView->setSelectedIdx(i);
+            m_listView->setStartIdx(qMax(0, i - 2));
+            return;
+        }
+    }
+}
+
+/// The first page as it is without what was deleted, and the word about it. False when the screen was closed.
+bool Contact::showAfterDeletion()
+{
+    reload();
+    setupListViewItems(false, -1, 0, true);
     setupTail();
+    if (!Notices::show(this, tr("Deleted"), Notices::Icon::Delete))
+        return false;
+    m_listView->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+void Contact::deleteSelected()
+{
+    auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(m_listView->selectedIdx()));
+    if (!cell)
+        return;
+    const ContactRemoval removal(cell->getId(), static_cast<ContactData::Contact_Type>(cell->getContactType()));
+    if (!Notices::ask(this, messageBox(), tr("Delete the contact"), tr("Do you want to delete the contact?"),
+                      tr("Delete"), tr("No")))
+        return;
+    switch (removal.remove()) {
+    case ContactRemoval::Removed:
+        showAfterDeletion();
+        removal.announce();
+        break;
+    case ContactRemoval::MembershipsFailed:
+        if (Notices::show(this, tr("Failed"), Notices::Icon::Error))
+            m_listView->setFocus(Qt::OtherFocusReason);
+        break;
+    case ContactRemoval::ContactFailed: break;
+    }
+}
+
+void Contact::deleteAll()
+{
+    if (m_listView->itemSize() == 0)
+        return;
+    const QString question
+        = tr("Do you want to delete all of contacts?") + '\n' + tr("Mobile Contacts will not be deleted.");
+    if (!Notices::ask(this, messageBox(), tr("Delete All Contacts"), question, tr("Delete"), tr("No")))
+        return;
+    ContactManager *store = theCore->contactManager();
+    if (!store->deleteAllGroupMember())
+        return;
+    if (!store->deleteAllContacts()) {
+        qDebug() << "Contact::deleteAll Failed to delete all of contacts";
+        return;
+    }
+    if (showAfterDeletion())
+        m_listViewPage = 0;
+    theCore->sendAppMsg("idle", "contactAllDelete()", QByteArray(""));
+}
+
+void Contact::closeAll()
+{
+    update();
+    closeChildren();
+    accept();
 }

@@ -3,34 +3,46 @@
 #include "contact.h"
 #include "thumbnail.h"
 
+#include "contactmanager.h"
 #include "core.h"
+#include "detailsdial.h"
 #include "gridselectview.h"
+#include "grouplist.h"
+#include "numberedit.h"
+#include "screenwatch.h"
 #include "wpsmcontactmanager.h"
 
+#include <QDataStream>
+#include <QDebug>
 #include <QPixmapCache>
 
 struct Contact::Command
 {
     const char *text;
-    void (Contact::*handler)();
+    void (Contact::*handler)(QDataStream &payload);
 };
 
-void Contact::receiveMsg(const QString &command, const QByteArray &)
+void Contact::receiveMsg(const QString &command, const QByteArray &payload)
 {
     // The text is matched as a whole; the blank within one of them is part of it.
     static const Command commands[] = {
+        {"newContact(str)", &Contact::handleNewContact},
+        {"viewContact(str)", &Contact::handleViewContact},
         {"changedLanguage()", &Contact::handleChangedLanguage},
         {"noti_phoneInit()", &Contact::handlePhoneInit},
         {"api2ui_noti_contact_changed()", &Contact::handleContactChanged},
         {"wpsm2ui _noti_contact_changed(int)", &Contact::handleMobileContactChanged},
-        {"wpsm2ui_noti_device_connected(int)", &Contact::handleDevice},
-        {"wpsm2ui_noti_device_disconnected(int)", &Contact::handleDevice},
-        {"BuddyStatusChanged()", &Contact::refreshPresence},
+        {"wpsm2ui_contact_picture_ack(str,int,str)", &Contact::handlePictureAck},
+        {"wpsm2ui_noti_device_connected(int)", &Contact::handleDeviceConnected},
+        {"wpsm2ui_noti_device_disconnected(int)", &Contact::handleDeviceDisconnected},
+        {"BuddyStatusChanged()", &Contact::handleBuddyStatus},
+        {"LogOutResponse(int)", &Contact::handleLogOut},
         {"CloseContact()", &Contact::handleCloseContact},
     };
     for (const Command &known : commands) {
         if (command == QLatin1String(known.text)) {
-            (this->*known.handler)();
+            QDataStream stream(payload);
+            (this->*known.handler)(stream);
             return;
         }
     }
@@ -50,7 +62,35 @@ void Contact::refreshIfVisible()
     update();
 }
 
-void Contact::handleChangedLanguage()
+void Contact::handleNewContact(QDataStream &payload)
+{
+    QString number;
+    payload >> number;
+    runScreen(
+        m_numberEdit, this, [this, number] { return new NumberEdit(this, -1, number, -1); },
+        [this](NumberEdit *) {
+            reload();
+            close();
+        });
+}
+
+void Contact::handleViewContact(QDataStream &payload)
+{
+    QString number;
+    payload >> number;
+    const ContactData contact = theCore->contactManager()->getContactByUsingNumber(number);
+    closeScreen(m_detailsDial);
+    runScreen(
+        m_detailsDial, this,
+        [this, contact] {
+            auto *details = new DetailsDial(this, contact.id, contact.type);
+            details->setTailClickedClose(true);
+            return details;
+        },
+        [this](DetailsDial *) { end(); });
+}
+
+void Contact::handleChangedLanguage(QDataStream &)
 {
     reloadLanguage();
     setupChooserRows();
@@ -59,40 +99,69 @@ void Contact::handleChangedLanguage()
     update();
 }
 
-void Contact::handlePhoneInit()
+void Contact::handlePhoneInit(QDataStream &)
 {
     reload();
     Thumbnail::clear();
     setupListViewItems(false, -1, 0, true);
 }
 
-void Contact::handleContactChanged()
+void Contact::contactChanged()
 {
     reload();
+    if (m_groupList) {
+        if (m_groupList->isVisible())
+            m_groupList->setupListViewItems();
+        return;
+    }
     refreshIfVisible();
 }
 
-void Contact::handleMobileContactChanged()
+void Contact::handleContactChanged(QDataStream &)
+{
+    contactChanged();
+}
+
+void Contact::handleMobileContactChanged(QDataStream &)
 {
     theCore->wpsmContactManager()->readWpsmConfigFile();
     Thumbnail::clear();
     QPixmapCache::clear();
-    handleContactChanged();
+    contactChanged();
 }
 
-void Contact::handleDevice()
+void Contact::handlePictureAck(QDataStream &payload)
+{
+    QString text, result;
+    qint32 number = 0;
+    payload >> text >> number >> result;
+    qDebug() << "Contact::handlePictureAck" << text << number << result;
+}
+
+void Contact::handleDeviceConnected(QDataStream &)
 {
     theCore->wpsmContactManager()->readWpsmConfigFile();
     reload();
     refreshIfVisible();
 }
 
-void Contact::handleCloseContact()
+void Contact::handleDeviceDisconnected(QDataStream &payload)
 {
-    if (isHidden())
-        return;
-    update();
-    close();
+    closeChildren(); // they may show a contact of the device
+    handleDeviceConnected(payload);
+}
+
+void Contact::handleBuddyStatus(QDataStream &)
+{
+    refreshPresence();
+}
+
+void Contact::handleLogOut(QDataStream &payload)
+{
+    qint32 value = 0;
+    payload >> value;
+    if (value != 0)
+        refreshPresence();
 }
 
 void Contact::refreshPresence()
@@ -102,4 +171,13 @@ void Contact::refreshPresence()
         return;
     reload();
     setupListViewItems(true, -1, cell, false);
+}
+
+void Contact::handleCloseContact(QDataStream &)
+{
+    if (isHidden())
+        return;
+    closeChildren();
+    update();
+    close();
 }

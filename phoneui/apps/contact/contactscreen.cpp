@@ -5,8 +5,11 @@
 
 #include "contactmanager.h"
 #include "core.h"
+#include "detailsdial.h"
 #include "gridselectview.h"
+#include "grouplist.h"
 #include "listviewcontactitem.h"
+#include "numberedit.h"
 #include "status.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
@@ -37,7 +40,9 @@ void Contact::setupStatus()
 
 void Contact::setStatusTitle(int idx)
 {
-    if (!isVisible() || !status)
+    const auto shows = [](const QWidget *child) { return child && child->isVisible(); };
+    const bool childHasTitle = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList);
+    if (!isVisible() || !status || childHasTitle)
         return;
     const QString title = QString("%1 | %2 (%3/%4)").arg(tr("Contacts"), tr("All")).arg(idx + 1).arg(m_totalCount);
     if (status->title() != title)
@@ -57,6 +62,7 @@ void Contact::setupListView()
     m_listView->setUseDotLines(true);
     m_listView->setFocusType(GridFloatingFocus);
     m_listView->setShowEmptyString(true);
+    connect(m_listView, &ListView::clicked, this, &Contact::clickedListViewItem);
     connect(m_listView, &GridSelectView::pageMoved, this, &Contact::updateTail);
     connect(m_listView, &ListView::focusChanged, this, &Contact::focusChangedListViewItem);
     m_listView->setLineColor(Qt::black);

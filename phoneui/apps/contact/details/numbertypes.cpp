@@ -1,0 +1,37 @@
+#include "numbertypes.h"
+
+#include "contactdata.h"
+
+#include <QObject>
+
+#include <array>
+
+/// The words by kind, in the order in which labels are searched for them.
+static std::array<QString, 5> kindWords()
+{
+    return {QObject::tr("Company"), QObject::tr("Mobile"), QObject::tr("Home"), QObject::tr("Fax"),
+            QObject::tr("Etc")};
+}
+
+QString getNumberTypeStr(int type)
+{
+    const bool known = type >= ContactData::Company && type <= ContactData::Etc;
+    return kindWords()[known ? type : ContactData::Etc] + ' ' + QObject::tr("Number");
+}
+
+bool isNumberLabel(const QString &label)
+{
+    return label.contains(QObject::tr("Number"));
+}
+
+int getNumberType(const QString &label)
+{
+    if (!isNumberLabel(label))
+        return ContactData::Company;
+    const auto words = kindWords();
+    for (int kind = ContactData::Company; kind <= ContactData::Etc; ++kind) {
+        if (label.contains(words[kind]))
+            return kind;
+    }
+    return ContactData::Company;
+}
