@@ -3,6 +3,7 @@
 #include "displaysetup.h"
 #include "log.h"
 #include "phone.h"
+#include "ringtones.h"
 #include "terminationsignals.h"
 
 #include <QApplication>
@@ -99,6 +100,7 @@ int main(int argc, char **argv)
     const bool isNew = !QFile::exists(home.configList());
     if (!home.create())
         return 1;
+    installRingTones(home);
     home.enter();
     // A phone that runs without a login session brings its own runtime folder.
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))

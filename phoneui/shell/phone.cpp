@@ -1,6 +1,8 @@
 #include "phone.h"
 
+#include "apps/aom/keymodule.h"
 #include "apps/idle/idle.h"
+#include "apps/message/messageapp.h"
 #include "control/controlserver.h"
 #include "control/messagelog.h"
 
@@ -22,11 +24,9 @@ Phone::Phone(const PhoneHome &home, QObject *parent)
         if (!launch(name))
             qWarning("There is no application \"%s\" to launch", qPrintable(name));
     });
-    m_makers.insert("idle", [this]() -> BaseAppInterface * {
-        auto *idle = new Idle;
-        m_neighbours.append(idle);
-        return idle;
-    });
+    addNeighbour<Idle>("idle");
+    addNeighbour<MessageApp>("message");
+    addNeighbour<KeyModule>("aom");
 }
 
 Phone::~Phone()

@@ -36,6 +36,15 @@ public:
     bool launch(const QString &name);
 
 private:
+    /// An application of the shell's own, made when it is first started.
+    template <class App> void addNeighbour(const QString &name)
+    {
+        m_makers.insert(name, [this]() -> BaseAppInterface * {
+            auto *app = new App;
+            m_neighbours.append(app);
+            return app;
+        });
+    }
     BaseAppInterface *application(const QString &name);
     bool openSockets();
 
