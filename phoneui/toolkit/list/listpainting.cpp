@@ -40,14 +40,15 @@ void setColors(ListViewItem *row, Role role)
         row->setFocusType(ListViewFocusFlat);
 }
 
-void drawFocused(QPainter *painter, ListViewItem *row, const QRect &rect, const QRect &frame, bool pressed)
+void drawFocused(QPainter *painter, ListViewItem *row, const QRect &rect, const QRect &frame, bool pressed,
+                 const QColor &text)
 {
-    const QColor text = pressed ? Qt::white : Qt::black;
-    row->setTextColor(pressed ? text : row->baseTextColor());
-    row->setTextSelectColor(text);
-    row->setTextDisableColor(text);
+    const QColor contrast = pressed ? Qt::white : Qt::black;
+    row->setTextColor(pressed ? contrast : text);
+    row->setTextSelectColor(contrast);
+    row->setTextDisableColor(contrast);
     if (!pressed)
-        row->setTextNoFocusSelectColor(text);
+        row->setTextNoFocusSelectColor(contrast);
     setGrounds(row, Qt::transparent, Qt::transparent);
     row->setIsPressed(pressed);
 

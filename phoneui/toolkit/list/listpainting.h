@@ -22,8 +22,9 @@ Role role(bool selected, eListViewItemFocusType listType, const ListViewItem *ro
 /// Gives the row the colours of its role; its base text colour becomes its text colour.
 void setColors(ListViewItem *row, Role role);
 
-/// The row's content once more, on the ground of a focus frame.
-void drawFocused(QPainter *painter, ListViewItem *row, const QRect &rect, const QRect &frame, bool pressed);
+/// The row's content once more, on the ground of a focus frame. `text` is the colour of a row that is not pressed.
+void drawFocused(QPainter *painter, ListViewItem *row, const QRect &rect, const QRect &frame, bool pressed,
+                 const QColor &text);
 
 /// Two pixels of light grey and one of the ground, from the line's start; for level and upright lines.
 void drawDottedLine(QPainter *painter, const QLine &line, const QColor &ground);

@@ -188,6 +188,8 @@ protected:
     int scrollWidth() const;
     /// Where the row stands in the list, also while it is out of the window.
     QRect rowRect(int idx) const;
+    /// Draws the scroll bar of a list that has one.
+    void paintScrollBar(QPainter *painter, const QColor &thumbColor);
     /// Tells the row, ahead of its paint, where it stands and how the list is.
     void prepareRow(ListViewItem *row, const QRect &rect, int scrollWidth);
     /// Fills the list with its colour and picture.
@@ -212,7 +214,6 @@ private:
     void clickSelected(QKeyEvent *event);
     void clickByFuncKey(QKeyEvent *event);
 
-    void paintScrollBar(QPainter *painter);
     void paintRows(QPainter *painter);
     void paintSeparator(QPainter *painter, const ListViewItem *row, const QRect &rect);
     void paintEdgeLines(QPainter *painter);

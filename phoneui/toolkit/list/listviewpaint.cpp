@@ -32,7 +32,7 @@ void ListView::paintEvent(QPaintEvent *)
         return;
     }
     if (scrollWidth() > 0)
-        paintScrollBar(&painter);
+        paintScrollBar(&painter, ListPainting::DarkGrey);
     paintRows(&painter);
 }
 
@@ -48,7 +48,7 @@ void ListView::paintEmptyLook(QPainter *painter)
     ListPainting::drawEmptyLook(painter, size(), m_emptyString);
 }
 
-void ListView::paintScrollBar(QPainter *painter)
+void ListView::paintScrollBar(QPainter *painter, const QColor &thumbColor)
 {
     static constexpr int BoxWidth = 5, ThinWidth = 3; // from the box's left edge to the right margin
     static constexpr int ThumbWidth = 4, BoxedThumbWidth = 3;
@@ -74,7 +74,7 @@ void ListView::paintScrollBar(QPainter *painter)
         bar.moveLeft(box.left() + 2);
         bar.setWidth(BoxedThumbWidth);
     }
-    painter->fillRect(bar, ListPainting::DarkGrey);
+    painter->fillRect(bar, thumbColor);
 }
 
 void ListView::prepareRow(ListViewItem *row, const QRect &rect, int scrollWidth)
@@ -143,7 +143,7 @@ void ListView::paintFloating(QPainter *painter, ListViewItem *row, const QRect &
 {
     const bool edits = RowKinds::hasOverlay(row->type());
     if (row->hasFocus() && !edits) {
-        ListPainting::drawFocused(painter, row, rect, frame, m_selectAndPressed);
+        ListPainting::drawFocused(painter, row, rect, frame, m_selectAndPressed, row->baseTextColor());
     } else if (!row->hasFocus() && edits) {
         // The line edit has the focus: the row shows it without a frame.
         row->setIsPressed(true);
