@@ -1,5 +1,6 @@
 #include "idle.h"
 
+#include "callmanager.h"
 #include "core.h"
 #include "status.h"
 #include "tail.h"
@@ -9,12 +10,31 @@
 #include <QLocale>
 #include <QPainter>
 
+#include <iterator>
+
 namespace {
 
 constexpr QRect ClockRect(0, 8, 384, 60);
 constexpr QRect DateRect(0, 68, 384, 28);
 constexpr int ClockSize = 60, DateSize = 20;
-constexpr int ContactsKey = 0;
+
+/// The soft keys and the applications that they launch.
+struct Way
+{
+    const char *label;
+    const char *app;
+};
+constexpr Way ways[] = {
+    {QT_TRANSLATE_NOOP("Idle", "Contacts"), "contact"},
+    {QT_TRANSLATE_NOOP("Idle", "History"), "history"},
+    {QT_TRANSLATE_NOOP("Idle", "Call"), "call"},
+};
+
+/// The way back to a call is there as long as the call.
+bool isOpen(const Way &way)
+{
+    return way.app != QLatin1String("call") || theCore->callManager()->callState() != "IDLE";
+}
 
 }
 
@@ -24,6 +44,7 @@ Idle::Idle() : BaseWidget(nullptr), BaseAppInterface("idle", nullptr)
     setFocusPolicy(Qt::StrongFocus);
     setupTail();
     connect(tail, &Tail::clicked, this, &Idle::softKeyClicked);
+    connect(theCore->callManager(), &CallManager::callStateChanged, this, &Idle::setupTail);
     // The clock is right within a second of the minute's turn.
     m_clockTimer.setInterval(1000);
     connect(&m_clockTimer, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
@@ -75,15 +96,15 @@ void Idle::setupStatus()
 
 void Idle::setupTail()
 {
-    tail->setFuncButtonText(ContactsKey, tr("Contacts"));
-    for (int i = 1; i < Tail::ButtonCount; ++i)
-        tail->setFuncButtonText(i, QString());
+    int key = 0;
+    for (const Way &way : ways)
+        tail->setFuncButtonText(key++, isOpen(way) ? tr(way.label) : QString());
 }
 
 void Idle::softKeyClicked(int idx)
 {
-    if (idx == ContactsKey)
-        theCore->launch("contact", nullptr);
+    if (idx >= 0 && idx < int(std::size(ways)) && isOpen(ways[idx]))
+        theCore->launch(ways[idx].app, nullptr);
 }
 
 void Idle::keyReleaseEvent(QKeyEvent *event)

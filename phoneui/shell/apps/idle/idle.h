@@ -10,6 +10,7 @@
 class Idle : public BaseWidget, public BaseAppInterface
 {
     Q_OBJECT
+    Q_INTERFACES(BaseAppInterface)
 
 public:
     Idle();
