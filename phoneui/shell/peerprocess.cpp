@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QFileInfo>
 
 #include <csignal>
 #include <sys/prctl.h>
@@ -18,9 +19,9 @@ constexpr int HealthyLife = 60000; // ms; who lived that long is worth all resta
 }
 
 PeerProcess::PeerProcess(const QString &program, const PhoneHome &home, QObject *parent)
-    : QProcess(parent), m_name(program), m_shellPid(QCoreApplication::applicationPid())
+    : QProcess(parent), m_name(QFileInfo(program).fileName()), m_shellPid(QCoreApplication::applicationPid())
 {
-    setProgram(QCoreApplication::applicationDirPath() + '/' + program);
+    setProgram(program);
     setArguments({"--home", home.root(), "--port", "0"});
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_MESSAGE_PATTERN", "%{type}: %{message}");

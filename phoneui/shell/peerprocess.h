@@ -16,7 +16,6 @@ class PeerProcess : public QProcess
     Q_OBJECT
 
 public:
-    /// `program` lies beside the shell's own.
     PeerProcess(const QString &program, const PhoneHome &home, QObject *parent = nullptr);
     ~PeerProcess() override;
 

@@ -27,10 +27,10 @@ void writePort(const QString &section, quint16 port)
 
 }
 
-Peers::Peers(const PhoneHome &home, QObject *parent) : QObject(parent)
+Peers::Peers(const PhoneHome &home, const QString &folder, QObject *parent) : QObject(parent)
 {
     for (const Peer &peer : table)
-        addPeer(peer.program, peer.section, home);
+        addPeer(new PeerProcess(folder + '/' + peer.program, home, this), peer.section);
 }
 
 Peers::~Peers()
@@ -41,9 +41,8 @@ Peers::~Peers()
         writePort(peer.section, 0);
 }
 
-void Peers::addPeer(const QString &program, const QString &section, const PhoneHome &home)
+void Peers::addPeer(PeerProcess *process, const QString &section)
 {
-    auto *process = new PeerProcess(program, home);
     m_processes.append(process);
     connect(process, &PeerProcess::portChanged, this, [this, section](quint16 port) {
         writePort(section, port);

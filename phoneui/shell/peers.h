@@ -15,7 +15,8 @@ class Peers : public QObject
     Q_OBJECT
 
 public:
-    explicit Peers(const PhoneHome &home, QObject *parent = nullptr);
+    /// `folder` holds the programs.
+    Peers(const PhoneHome &home, const QString &folder, QObject *parent = nullptr);
     ~Peers() override;
 
     /// Starts all of them and waits until their ports are known, so that the first request finds them.
@@ -26,7 +27,7 @@ signals:
     void gone(const QString &section);
 
 private:
-    void addPeer(const QString &program, const QString &section, const PhoneHome &home);
+    void addPeer(PeerProcess *process, const QString &section);
 
     QList<PeerProcess *> m_processes;
 };

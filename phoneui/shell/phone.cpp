@@ -86,7 +86,7 @@ void Phone::loadPlugins()
 
 void Phone::startPeers()
 {
-    m_peers.reset(new Peers(m_core.home()));
+    m_peers.reset(new Peers(m_core.home(), QCoreApplication::applicationDirPath()));
     connect(m_peers.get(), &Peers::gone, this, [this](const QString &section) {
         if (section == "CM")
             forgetCall();

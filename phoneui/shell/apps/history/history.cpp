@@ -139,6 +139,12 @@ void History::setupStatus()
     reload();
 }
 
+void History::showEvent(QShowEvent *event)
+{
+    BaseWidget::showEvent(event);
+    updateStatus();
+}
+
 void History::setupTitle()
 {
     if (!status || !isActiveWindow())

@@ -24,6 +24,7 @@ public:
 
 protected:
     void setupStatus() override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void open(const QString &number);
