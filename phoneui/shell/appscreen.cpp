@@ -4,6 +4,9 @@
 #include "listview.h"
 #include "status.h"
 #include "tail.h"
+#include "windowstack.h"
+
+#include <QApplication>
 
 static constexpr QRect ListGeometry(5, 2, 374, 104);
 
@@ -11,19 +14,25 @@ AppScreen::AppScreen(const QString &name) : BaseWidget(nullptr), BaseAppInterfac
 {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
-    // It may open over an application that lets no key through to others.
+    // It may come up over a screen that is modal.
     setModal(true);
 }
 
 bool AppScreen::start(QWidget *, void *)
 {
-    if (isVisible()) {
-        end();
-    } else {
-        setVisible(true);
-        raise();
+    for (const QWidget *window = QApplication::activeWindow(); window; window = window->parentWidget()) {
+        if (window == this) {
+            end();
+            return true;
+        }
     }
+    bringUp();
     return true;
+}
+
+void AppScreen::bringUp()
+{
+    WindowStack::bringUp(this);
 }
 
 void AppScreen::end()
@@ -44,6 +53,12 @@ void AppScreen::setupStatus()
     theCore->setCurrentActivateApp(appName());
     if (status)
         status->setTitle(title());
+}
+
+void AppScreen::showEvent(QShowEvent *event)
+{
+    BaseWidget::showEvent(event);
+    updateStatus();
 }
 
 void AppScreen::setSoftKeys(const QStringList &texts)

@@ -6,7 +6,7 @@
 
 class ListView;
 
-/// A small application of the shell's own: a screen with one list. A start while it shows ends it.
+/// A small application of the shell's own: a screen with one list. A start while it is in front ends it.
 class AppScreen : public BaseWidget, public BaseAppInterface
 {
     Q_OBJECT
@@ -25,6 +25,9 @@ protected:
     /// What stands on the status bar while this screen is in front.
     virtual QString title() const = 0;
     void setupStatus() override;
+    void showEvent(QShowEvent *event) override;
+    /// Shows the application over all others.
+    virtual void bringUp();
     /// The texts of the soft keys from the first on; an empty one leaves its key without a function.
     void setSoftKeys(const QStringList &texts);
 };

@@ -35,6 +35,15 @@ QWidget *WindowStack::top() const
     return nullptr;
 }
 
+void WindowStack::bringUp(QWidget *window)
+{
+    if (window->isVisible() && window->isActiveWindow())
+        return;
+    // Of modal windows the one shown last takes the keys; raising alone would leave it blocked.
+    window->hide();
+    window->show();
+}
+
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -74,6 +83,12 @@ void WindowStack::remove(QWidget *window)
 void WindowStack::activateTop()
 {
     QWidget *window = top();
-    if (window && QApplication::activeWindow() != window)
+    if (!window || QApplication::activeWindow() == window)
+        return;
+    // A window that went and came back at once has lost its place in Qt, but not at the platform, which then sees
+    // nothing to activate.
+    if (QGuiApplication::focusWindow() == window->windowHandle())
+        QApplication::setActiveWindow(window);
+    else
         window->activateWindow();
 }

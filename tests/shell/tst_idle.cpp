@@ -1,3 +1,4 @@
+#include "callmanager.h"
 #include "idle.h"
 #include "neighbourtest.h"
 
@@ -37,9 +38,15 @@ void IdleTest::launchesTheApplications()
     QStringList launched;
     m_phone->core.setLauncher([&](const QString &name, void *) { launched.append(name); });
     QVERIFY(open());
-    for (Qt::Key key : {Qt::Key_Context1, Qt::Key_Context3, Qt::Key_Context4, Qt::Key_Escape})
+    for (Qt::Key key : {Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Context4, Qt::Key_Escape})
         click(key);
-    QCOMPARE(launched, QStringList({"contact", "message", "aom"}));
+    QCOMPARE(launched, QStringList({"contact", "history", "message", "aom"}));
+    m_phone->core.callManager()->setCallState("ALERT");
+    TestScreen::shot("idle-in-call");
+    click(Qt::Key_Context3);
+    m_phone->core.callManager()->setCallState("IDLE");
+    click(Qt::Key_Context3);
+    QCOMPARE(launched.mid(4), QStringList({"call", "message"}));
     QVERIFY(m_app->isVisible());
 }
 

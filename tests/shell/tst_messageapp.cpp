@@ -1,6 +1,7 @@
 #include "messageapp.h"
 #include "messageform.h"
 #include "neighbourtest.h"
+#include "toast.h"
 
 #include <QLineEdit>
 
@@ -18,6 +19,7 @@ private slots:
     void aReceiverThatComesLate();
     void opensForAnotherApplication();
     void anotherMessageTakesTheForm();
+    void aMessageDuringTheToastKeepsItsForm();
     void aHeldEraseKeyEmptiesTheField();
     void sendsAgain();
     void deletes();
@@ -34,12 +36,26 @@ private:
     QString text() { return field(1); }
     QString field(int row) { return static_cast<ListViewLineEditItem *>(list(form())->item(row))->editText(); }
     QString details() { return list(form())->item(2)->text(); }
+    QString toast()
+    {
+        const auto *shown = form()->findChild<Toast *>();
+        return shown && shown->isVisible() ? shown->message() : QString();
+    }
+    /// Any key sends a toast away.
+    void dismissToast()
+    {
+        click(Qt::Key_Context4);
+        settle();
+        QCOMPARE(toast(), QString());
+    }
     void send(const QString &number, const QString &text)
     {
         receive("newMessage(str)", {number});
         QVERIFY(formIsOpen());
         type(text);
         click(Qt::Key_Context4);
+        QCOMPARE(toast(), QString("Sent"));
+        dismissToast();
         QVERIFY(!form()->isVisible());
     }
 };
@@ -60,7 +76,9 @@ void MessageAppTest::writesAndSends()
     QCOMPARE(m_phone->core.getIMEStatus(), IMESmall);
     type("Hello, are you there?");
     click(Qt::Key_Context4);
-    QTRY_VERIFY(m_app->isActiveWindow());
+    QCOMPARE(toast(), QString("Sent"));
+    TestScreen::shot("message-sent");
+    QTRY_VERIFY(m_app->isActiveWindow()); // the toast goes by itself, and the form with it
     QCOMPARE(title(), QString("Messages | Sent (1)"));
     QCOMPARE(rows(m_app.get()), QStringList{"Anna"});
     QCOMPARE(piece(m_app.get(), 0, 0), QString("Hello, are you there?"));
@@ -79,16 +97,19 @@ void MessageAppTest::asksForWhatIsMissing()
     settle();
     type("Hello");
     click(Qt::Key_Context4);
-    QCOMPARE(details(), QString("Enter a number"));
-    QTRY_COMPARE(list(form())->selectedIdx(), 0);
+    QCOMPARE(toast(), QString("Enter a number"));
+    dismissToast();
+    QCOMPARE(list(form())->selectedIdx(), 0);
     type("5");
-    QCOMPARE(details(), QString());
+    QCOMPARE(receiver(), QString("()5"));
     click(Qt::Key_Down);
     settle();
     list(form())->lineEdit()->setText("  ");
     click(Qt::Key_Context4);
-    QCOMPARE(details(), QString("Enter a text"));
-    QVERIFY(form()->isVisible());
+    QCOMPARE(toast(), QString("Enter a text"));
+    dismissToast();
+    type("Hello");
+    QCOMPARE(text(), QString("  Hello"));
     QCOMPARE(rows(m_app.get()), QStringList());
 }
 
@@ -147,6 +168,25 @@ void MessageAppTest::anotherMessageTakesTheForm()
     QCOMPARE(text(), QString("Bye"));
 }
 
+void MessageAppTest::aMessageDuringTheToastKeepsItsForm()
+{
+    receive("newMessage(str)", {"100"});
+    QVERIFY(formIsOpen());
+    type("Hello");
+    click(Qt::Key_Context4);
+    QCOMPARE(toast(), QString("Sent"));
+    receive("newMessage(str)", {"200"});
+    settle();
+    QCOMPARE(toast(), QString());
+    QVERIFY(form()->isVisible());
+    type("Bye");
+    QCOMPARE(receiver() + text(), QString("200Bye"));
+    m_app->end();
+    receive("setReceiver(str)", {"300"});
+    QVERIFY(formIsOpen());
+    QCOMPARE(receiver() + text(), QString("300"));
+}
+
 void MessageAppTest::aHeldEraseKeyEmptiesTheField()
 {
     receive("newMessage(str)", {"100"});
@@ -172,6 +212,7 @@ void MessageAppTest::sendsAgain()
     QVERIFY(formIsOpen());
     QCOMPARE(receiver() + text(), QString("100First"));
     click(Qt::Key_Context4);
+    dismissToast();
     QTRY_VERIFY(m_app->isActiveWindow());
     QCOMPARE(rows(m_app.get()), QStringList({"100", "200", "100"}));
     QCOMPARE(list(m_app.get())->selectedIdx(), 0);
@@ -223,7 +264,7 @@ void MessageAppTest::aFileThatIsNoDatabase()
     QVERIFY(formIsOpen());
     type("Hello");
     click(Qt::Key_Context4);
-    QCOMPARE(details(), QString("Failed"));
+    QCOMPARE(toast(), QString("Failed"));
     QCOMPARE(text(), QString("Hello"));
     QFile file(m_phone->home.path("data/messages.db"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -272,8 +313,8 @@ void MessageAppTest::pictures()
     TestScreen::shot("message-form");
     list(form())->lineEdit()->clear();
     click(Qt::Key_Context4);
-    settle();
     TestScreen::shot("message-missing");
+    dismissToast();
     click(Qt::Key_Escape);
 
     send("004912345678901", QString::fromUtf8("Где ты?"));

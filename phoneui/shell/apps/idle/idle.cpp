@@ -1,5 +1,6 @@
 #include "idle.h"
 
+#include "callmanager.h"
 #include "control/apppayload.h"
 #include "core.h"
 #include "dialer.h"
@@ -12,6 +13,8 @@
 #include <QLocale>
 #include <QPainter>
 
+#include <iterator>
+
 namespace {
 
 constexpr int ClockSize = 60, DateSize = 20, FavouriteSize = 18;
@@ -23,15 +26,24 @@ constexpr int FavouriteTop = 78, FavouriteHeight = 24, FavouriteMostWidth = 340;
 /// The soft keys and the applications that they launch.
 struct Way
 {
-    int key;
     const char *label;
     const char *app;
 };
 constexpr Way ways[] = {
-    {0, QT_TRANSLATE_NOOP("Idle", "Contacts"), "contact"},
-    {2, QT_TRANSLATE_NOOP("Idle", "Messages"), "message"},
-    {3, QT_TRANSLATE_NOOP("Idle", "Keys"), "aom"},
+    {QT_TRANSLATE_NOOP("Idle", "Contacts"), "contact"},
+    {QT_TRANSLATE_NOOP("Idle", "History"), "history"},
+    {QT_TRANSLATE_NOOP("Idle", "Messages"), "message"},
+    {QT_TRANSLATE_NOOP("Idle", "Keys"), "aom"},
 };
+
+/// During a call the way back to it takes the place of another.
+constexpr Way wayToCall = {QT_TRANSLATE_NOOP("Idle", "Call"), "call"};
+constexpr int CallKey = 2;
+
+const Way &wayOf(int key)
+{
+    return key == CallKey && theCore->callManager()->callState() != "IDLE" ? wayToCall : ways[key];
+}
 
 bool isOk(int key)
 {
@@ -47,6 +59,7 @@ Idle::Idle()
     setFocusPolicy(Qt::StrongFocus);
     setupTail();
     connect(tail, &Tail::clicked, this, &Idle::softKeyClicked);
+    connect(theCore->callManager(), &CallManager::callStateChanged, this, &Idle::setupTail);
     // The clock is right within a second of the minute's turn.
     m_clockTimer.setInterval(1000);
     connect(&m_clockTimer, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
@@ -141,16 +154,14 @@ void Idle::setupStatus()
 
 void Idle::setupTail()
 {
-    for (const Way &way : ways)
-        tail->setFuncButtonText(way.key, tr(way.label));
+    for (int key = 0; key < int(std::size(ways)); ++key)
+        tail->setFuncButtonText(key, tr(wayOf(key).label));
 }
 
 void Idle::softKeyClicked(int idx)
 {
-    for (const Way &way : ways) {
-        if (way.key == idx)
-            theCore->launch(way.app, nullptr);
-    }
+    if (idx >= 0 && idx < int(std::size(ways)))
+        theCore->launch(wayOf(idx).app, nullptr);
 }
 
 void Idle::callFavourite()

@@ -9,6 +9,7 @@
 #include "listviewsubtitleitem.h"
 #include "status.h"
 #include "tail.h"
+#include "windowstack.h"
 
 #include <QLocale>
 
@@ -56,8 +57,18 @@ MessageApp::MessageApp()
 
 void MessageApp::end()
 {
-    m_form->close();
+    if (m_form->isVisible())
+        m_form->close();
     AppScreen::end();
+}
+
+void MessageApp::bringUp()
+{
+    // A message that is being written lies over the list, or is there alone.
+    if (m_form->isVisible())
+        WindowStack::bringUp(m_form);
+    else
+        AppScreen::bringUp();
 }
 
 void MessageApp::receiveMsg(const QString &command, const QByteArray &payload)
@@ -133,13 +144,13 @@ void MessageApp::formClosed()
 void MessageApp::send(const QString &number, const QString &text)
 {
     if (!m_store.add(number, text, QDateTime::currentDateTime())) {
-        m_form->showNotice(tr("Failed"));
+        m_form->showFailed();
         return;
     }
     m_list->setSelectedIdx(0);
     m_list->setStartIdx(0);
     refresh();
-    m_form->close();
+    m_form->showSent();
 }
 
 void MessageApp::openSelected(int idx)

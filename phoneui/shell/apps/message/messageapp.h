@@ -20,6 +20,7 @@ public:
 
 protected:
     QString title() const override;
+    void bringUp() override;
     void showEvent(QShowEvent *event) override;
 
 private:

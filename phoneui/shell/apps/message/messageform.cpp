@@ -8,6 +8,8 @@
 #include "listviewlineedititem.h"
 #include "status.h"
 #include "tail.h"
+#include "toast.h"
+#include "windowstack.h"
 
 #include <QLineEdit>
 
@@ -17,6 +19,7 @@ constexpr int LongestNumber = 32;
 // Short titles leave the fields more room than a form's usual half of the row.
 constexpr int FieldShift = -125;
 constexpr int DetailsRightMargin = 8;
+constexpr int ToastTime = 2000; // ms
 
 }
 
@@ -57,10 +60,10 @@ void MessageForm::setupStatus()
 
 void MessageForm::open(const QString &number, const QString &text)
 {
+    dropToast();
     m_text->setEditText(text);
     setReceiver(number);
-    setVisible(true);
-    raise();
+    WindowStack::bringUp(this);
 }
 
 void MessageForm::setReceiver(const QString &number)
@@ -95,10 +98,39 @@ void MessageForm::showDetails()
     m_list->update();
 }
 
-void MessageForm::showNotice(const QString &text)
+void MessageForm::showToast(const QString &text, const char *icon, const std::function<void()> &then)
 {
-    m_details->setText(text);
-    m_list->update();
+    dropToast();
+    m_toast = new Toast(text, ToastTime, this);
+    m_toast->setIcon(QPixmap(QStringLiteral(":ui/images/widget/%1.png").arg(QLatin1String(icon))));
+    connect(m_toast, &Toast::toastTimeout, this, [this, then] {
+        dropToast();
+        then();
+    });
+    m_toast->show();
+}
+
+void MessageForm::dropToast()
+{
+    if (!m_toast)
+        return;
+    // It may be in the middle of its end.
+    m_toast->disconnect(this);
+    m_toast->deleteLater();
+    m_toast->hide();
+    m_toast = nullptr;
+}
+
+void MessageForm::showSent()
+{
+    // Not to be sent again, should something bring the form up before the toast has gone.
+    m_text->setEditText(QString());
+    showToast(tr("Sent"), "confirm", [this] { close(); });
+}
+
+void MessageForm::showFailed()
+{
+    showToast(tr("Failed"), "error_emoti", [this] { edit(TextRow); });
 }
 
 void MessageForm::softKeyClicked(int key)
@@ -122,18 +154,22 @@ void MessageForm::send()
 {
     const QString number = ContactData::bareNumber(m_receiver->editText());
     if (number.isEmpty()) {
-        edit(ReceiverRow);
-        showNotice(tr("Enter a number"));
+        showToast(tr("Enter a number"), "error_emoti", [this] { edit(ReceiverRow); });
     } else if (m_text->editText().trimmed().isEmpty()) {
-        edit(TextRow);
-        showNotice(tr("Enter a text"));
+        showToast(tr("Enter a text"), "error_emoti", [this] { edit(TextRow); });
     } else {
         emit sendRequested(number, m_text->editText());
     }
 }
 
+void MessageForm::closeEvent(QCloseEvent *event)
+{
+    BaseWidget::closeEvent(event);
+    emit closed();
+}
+
 void MessageForm::hideEvent(QHideEvent *event)
 {
+    dropToast();
     BaseWidget::hideEvent(event);
-    emit closed();
 }

@@ -3,9 +3,12 @@
 
 #include "basewidget.h"
 
+#include <functional>
+
 class ListView;
 class ListViewInfoItem;
 class ListViewLineEditItem;
+class Toast;
 
 /// The form of one message: to whom, the text, and below them the receiver's name and how much of the room is used.
 ///
@@ -24,8 +27,9 @@ public:
     void open(const QString &number, const QString &text);
     /// Gives the message that is being written its receiver.
     void setReceiver(const QString &number);
-    /// Shows a word about what failed in place of the name, until the next change.
-    void showNotice(const QString &text);
+    /// Tells that the message is on its way, then closes.
+    void showSent();
+    void showFailed();
 
 signals:
     /// The user wants the message sent; number and text are not empty.
@@ -35,6 +39,7 @@ signals:
 
 protected:
     void setupStatus() override;
+    void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
@@ -48,11 +53,15 @@ private:
     /// Puts the cursor into a row, with the text that the row holds now.
     void edit(Row row);
     void showDetails();
+    /// Covers the form for a while, without a loop of its own; `then` runs when that is over.
+    void showToast(const QString &text, const char *icon, const std::function<void()> &then);
+    void dropToast();
 
     ListView *m_list;
     ListViewLineEditItem *m_receiver;
     ListViewLineEditItem *m_text;
     ListViewInfoItem *m_details;
+    Toast *m_toast = nullptr;
 };
 
 #endif
