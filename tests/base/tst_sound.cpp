@@ -70,7 +70,6 @@ private slots:
     void repeatsUntilItIsStopped();
     void theNextSoundEndsTheLast();
     void whatCannotBePlayedIsSilence();
-    void aPlayerThatFailsChangesNothing();
 
 private:
     QString makeFile(const QString &name, const QByteArray &content)
@@ -170,14 +169,14 @@ void SoundTest::listsTonesOfAFolder()
 
 void SoundTest::holdsForItsLength()
 {
-    makePlayer("");
+    makePlayer("echo 'no sound card' >&2; exit 1");
     const QString path = makeSound("a.wav", 300);
     QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
     QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
     m_sounds->playSound(path, false, "RING");
     QCOMPARE(started.takeFirst(), QVariantList({path, "RING"}));
     QCOMPARE(m_sounds->playing(), path);
-    // The player that is done before its time does not end the sound.
+    // A player that cannot play does not end the sound.
     QTRY_COMPARE(played().size(), 1);
     QVERIFY(played().first().endsWith(path.toLocal8Bit()));
     QVERIFY(stopped.isEmpty());
@@ -232,18 +231,6 @@ void SoundTest::whatCannotBePlayedIsSilence()
     QCOMPARE(stopped.size(), 1);
     m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
     QCOMPARE(started.size(), 1);
-}
-
-void SoundTest::aPlayerThatFailsChangesNothing()
-{
-    makePlayer("echo 'no soundcards found' >&2; exit 1");
-    const QString path = makeSound("a.wav", 60000);
-    m_sounds->playSound(path, true, "RING");
-    QTRY_COMPARE(played().size(), 1);
-    QTRY_VERIFY(!isRunning(played().first()));
-    QCoreApplication::processEvents();
-    QCOMPARE(m_sounds->playing(), path);
-    QCOMPARE(played().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(SoundTest)

@@ -12,9 +12,7 @@ class KeyModuleTest : public NeighbourTest<KeyModule>
 
 private slots:
     void addsFromTheContacts();
-    void aKeyDials();
-    void aNumberHasOneKey();
-    void deletes();
+    void dialsAndDeletes();
     void isFullAtSomePoint();
     void keepsItsKeys();
     void readsAForeignFile();
@@ -46,32 +44,14 @@ void KeyModuleTest::addsFromTheContacts()
     QCOMPARE(softKeys(m_app.get()), QStringList({"Add", "", "Delete", "Close"}));
 }
 
-void KeyModuleTest::aKeyDials()
-{
-    addKeys(5);
-    QVERIFY(open());
-    QCOMPARE(list(m_app.get())->selectedIdx(), 4); // the last that came
-    sent();
-    click(Qt::Key_Up);
-    click(Qt::Key_Return);
-    QCOMPARE(sent(),
-             QStringList{"CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL 104 Name 4 AUDIO 2 -1"});
-}
-
-void KeyModuleTest::aNumberHasOneKey()
-{
-    addKeys(2);
-    receive(Chosen, {"Anne", "1 01"});
-    QCOMPARE(rows(m_app.get()), QStringList({"Anne", "Name 2"}));
-    QCOMPARE(list(m_app.get())->selectedIdx(), 0);
-    receive(Chosen, {"", "300"});
-    QCOMPARE(rows(m_app.get()).last(), QString("300"));
-}
-
-void KeyModuleTest::deletes()
+void KeyModuleTest::dialsAndDeletes()
 {
     addKeys(3);
     QVERIFY(open());
+    sent();
+    click(Qt::Key_Return); // on the last that came
+    QCOMPARE(sent(),
+             QStringList{"CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL 103 Name 3 AUDIO 2 -1"});
     click(Qt::Key_Context3);
     QCOMPARE(rows(m_app.get()), QStringList({"Name 1", "Name 2"}));
     click(Qt::Key_Up);
@@ -91,7 +71,8 @@ void KeyModuleTest::isFullAtSomePoint()
     addKeys(ProgramKeys::MostKeys + 1);
     QCOMPARE(rows(m_app.get()).size(), ProgramKeys::MostKeys);
     QCOMPARE(softKeys(m_app.get()), QStringList({"", "", "Delete", "Close"}));
-    receive(Chosen, {"Last", QString::number(100 + ProgramKeys::MostKeys)});
+    // A number has one key.
+    receive(Chosen, {"Last", QString("(%1)").arg(100 + ProgramKeys::MostKeys)});
     QCOMPARE(rows(m_app.get()).last(), QString("Last"));
 }
 
