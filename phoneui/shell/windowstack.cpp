@@ -35,15 +35,6 @@ QWidget *WindowStack::top() const
     return nullptr;
 }
 
-void WindowStack::bringUp(QWidget *window)
-{
-    if (window->isVisible() && window->isActiveWindow())
-        return;
-    // Of modal windows the one shown last takes the keys; raising alone would leave it blocked.
-    window->hide();
-    window->show();
-}
-
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -85,8 +76,8 @@ void WindowStack::activateTop()
     QWidget *window = top();
     if (!window || QApplication::activeWindow() == window)
         return;
-    // A window that went and came back at once has lost its place in Qt, but not at the platform, which then sees
-    // nothing to activate.
+    // A window that went and came again within one event has kept the platform's focus, and the platform tells of
+    // changes alone.
     if (QGuiApplication::focusWindow() == window->windowHandle())
         QApplication::setActiveWindow(window);
     else

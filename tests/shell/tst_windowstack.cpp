@@ -11,6 +11,7 @@ class WindowStackTest : public TestCase
 
 private slots:
     void theNextBelowBecomesActive();
+    void aWindowShownAgainAtOnceIsActive();
     void raisingChangesTheOrder();
     void aWindowWithoutFocusIsNeverActive();
     void thePictureHasTheTopmostLast();
@@ -41,6 +42,17 @@ void WindowStackTest::theNextBelowBecomesActive()
     high.close();
     QTRY_COMPARE(QApplication::activeWindow(), &low);
     QVERIFY(edit.hasFocus());
+}
+
+void WindowStackTest::aWindowShownAgainAtOnceIsActive()
+{
+    QWidget screen;
+    QDialog box(&screen);
+    QVERIFY(PhoneKeys::showAndActivate(&screen));
+    QVERIFY(PhoneKeys::showAndActivate(&box));
+    box.hide();
+    box.show();
+    QTRY_COMPARE(QApplication::activeWindow(), &box);
 }
 
 void WindowStackTest::raisingChangesTheOrder()

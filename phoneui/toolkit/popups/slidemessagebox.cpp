@@ -21,11 +21,12 @@ QPropertyAnimation *makeAnimation(QObject *box, const char *property, int time, 
 
 }
 
-SlideMessageBox::SlideMessageBox(QWidget *parent)
-    : MessageBoxBase(parent), m_showAnimation(makeAnimation(this, "geometry", ShowTime, QEasingCurve::OutQuad)),
-      m_hideAnimation(makeAnimation(this, "geometry", HideTime, QEasingCurve::InQuad)),
-      m_backgroundAnimation(makeAnimation(this, "backgroundColor", DimTime, QEasingCurve::Linear))
+SlideMessageBox::SlideMessageBox(QWidget *parent) : MessageBoxBase(parent)
 {
+    // An animation reads its property at once: not before the members are there.
+    m_showAnimation = makeAnimation(this, "geometry", ShowTime, QEasingCurve::OutQuad);
+    m_hideAnimation = makeAnimation(this, "geometry", HideTime, QEasingCurve::InQuad);
+    m_backgroundAnimation = makeAnimation(this, "backgroundColor", DimTime, QEasingCurve::Linear);
     setModal(true);
     const QRect place(0, 0, width(), height());
     const QRect below = place.translated(0, height());

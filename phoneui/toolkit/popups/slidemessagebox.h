@@ -45,9 +45,9 @@ private:
     void slideOut(Slot after);
     void endSlide(Slot after);
 
-    QPropertyAnimation *m_showAnimation;
-    QPropertyAnimation *m_hideAnimation;
-    QPropertyAnimation *m_backgroundAnimation;
+    QPropertyAnimation *m_showAnimation = nullptr;
+    QPropertyAnimation *m_hideAnimation = nullptr;
+    QPropertyAnimation *m_backgroundAnimation = nullptr;
     bool m_useAnimation = false;
     bool m_animating = false;
     QColor m_backgroundColor = QColor(0, 0, 0, 0);
