@@ -35,15 +35,6 @@ QWidget *WindowStack::top() const
     return nullptr;
 }
 
-void WindowStack::bringUp(QWidget *window)
-{
-    if (window->isVisible() && window->isActiveWindow())
-        return;
-    // Of modal windows the one shown last takes the keys; raising alone would leave it blocked.
-    window->hide();
-    window->show();
-}
-
 bool WindowStack::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {

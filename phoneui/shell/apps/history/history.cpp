@@ -9,7 +9,6 @@
 #include "tail.h"
 #include "textcodec.h"
 #include "tocmsocket.h"
-#include "windowstack.h"
 
 #include <QDataStream>
 #include <QLocale>
@@ -101,7 +100,7 @@ void History::open(const QString &number)
     m_number = number;
     m_calls.clear();
     reload();
-    WindowStack::bringUp(this);
+    bringUp();
     m_list->setFocus(Qt::OtherFocusReason);
 }
 
