@@ -1,7 +1,7 @@
 # Shared by ./run and ./test: brings in what is missing on a Debian machine, then configures and builds.
 
 packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5sql5-sqlite
-    libkf5contacts-dev libcpp-httplib-dev libssl-dev librsvg2-bin fonts-roboto-unhinted fonts-nanum)
+    libkf5contacts-dev libhangul-dev pkg-config libcpp-httplib-dev libssl-dev librsvg2-bin fonts-roboto-unhinted fonts-nanum)
 
 fail() {
     printf '%s: %s\n' "$(basename "$0")" "$1" >&2

@@ -40,7 +40,13 @@ bool showAndActivate(QWidget *window)
 {
     window->show();
     window->activateWindow();
-    return QTest::qWaitForWindowActive(window);
+    return waitUntilActive(window);
+}
+
+bool waitUntilActive(QWidget *window)
+{
+    // Qt's own wait takes a dialog for active while its parent is.
+    return QTest::qWaitFor([window] { return QApplication::activeWindow() == window; });
 }
 
 }

@@ -17,6 +17,8 @@ void repeat(Qt::Key key);
 
 /// Shows the window and waits until keys reach it.
 bool showAndActivate(QWidget *window);
+/// The wait alone, for a window that is shown already.
+bool waitUntilActive(QWidget *window);
 
 }
 

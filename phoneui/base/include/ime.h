@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-class QEvent;
+class KeypadInput;
 
 /// The input modes, as the status bar shows them.
 enum IMEStatus {
@@ -17,8 +17,9 @@ enum IMEStatus {
     IMEReserved7 = 7
 };
 
-/// The input method: which mode is on. It is on while a line edit has the focus and off otherwise.
-/// The reference starts small: it keeps and shows the mode and composes no text yet.
+/// The input method: what the keypad writes into the line edit that has the focus, by the mode that is on. Letters
+/// are tapped, Korean is put together of strokes and consonants, and Hash goes from mode to mode. It is off while
+/// no line edit that can be written has the focus.
 class IME : public QObject
 {
     Q_OBJECT
@@ -30,15 +31,18 @@ public:
     int imeStatus() const { return m_active ? m_mode : IMEOff; }
     /// Chooses the mode; it shows when a line edit gets or has the focus.
     void setMode(IMEStatus mode);
+    /// What the Hash key does: small letters, capitals, digits, and Korean under the Korean language.
+    void nextMode();
 
 signals:
     void changedIMEStatus(int status);
 
 private:
-    void followFocus(QObject *focusObject);
+    void followFocus();
     void announce(int formerStatus);
 
-    int m_mode = IMESmall;
+    KeypadInput *m_input = nullptr;
+    IMEStatus m_mode = IMESmall;
     bool m_active = false;
 };
 

@@ -1,20 +1,20 @@
 #include "ime.h"
 
-#include <QGuiApplication>
+#include "core.h"
+#include "inputfield.h"
+#include "keypadinput.h"
 
-// This library knows no widgets: a line edit is known by its class name.
-static bool isLineEdit(const QObject *object)
-{
-    return object && object->inherits("QLineEdit");
-}
+#include <QGuiApplication>
 
 IME::IME(QObject *parent) : QObject(parent)
 {
     auto *app = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
     if (!app)
         return;
+    m_input = new KeypadInput(this);
+    connect(m_input, &KeypadInput::readOnlyChanged, this, &IME::followFocus);
     connect(app, &QGuiApplication::focusObjectChanged, this, &IME::followFocus);
-    m_active = isLineEdit(QGuiApplication::focusObject());
+    m_active = InputField::takesText(QGuiApplication::focusObject());
 }
 
 void IME::setMode(IMEStatus mode)
@@ -23,15 +23,29 @@ void IME::setMode(IMEStatus mode)
     // must not silence the next field.
     if (mode == IMEOff)
         return;
+    if (m_input && mode != m_mode)
+        m_input->finish();
     const int former = imeStatus();
     m_mode = mode;
     announce(former);
 }
 
-void IME::followFocus(QObject *focusObject)
+void IME::nextMode()
 {
+    const bool isKorean = theCore->language() == Korean;
+    switch (m_mode) {
+    case IMEFirst: setMode(isKorean ? IMESmall : IMECapital); break;
+    case IMECapital: setMode(IMEDigit); break;
+    case IMEDigit: setMode(isKorean ? IMEFirst : IMESmall); break;
+    default: setMode(IMECapital); break;
+    }
+}
+
+void IME::followFocus()
+{
+    m_input->finish();
     const int former = imeStatus();
-    m_active = isLineEdit(focusObject);
+    m_active = InputField::takesText(QGuiApplication::focusObject());
     announce(former);
 }
 

@@ -22,8 +22,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void paintPlate(QPainter *painter, bool empty) const;
-
     float m_startPos = 2.0F;
     float m_endPos = 2.0F;
 };

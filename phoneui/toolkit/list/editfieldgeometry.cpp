@@ -45,4 +45,12 @@ QRect timeEdit(const QRect &row, bool useAmPm)
     return between(row, row.left() + ValueColumn + indent + 1, row.right() - plate - FromRight);
 }
 
+QRect textOf(const QRect &edit, int textHeight)
+{
+    // QLineEdit leaves that much free beside its text, and gives a spare pixel to the space above it.
+    static constexpr int Margin = 2;
+    return QRect(edit.left() + Margin, edit.top() + (edit.height() - textHeight + 1) / 2, edit.width() - 2 * Margin,
+                 textHeight);
+}
+
 }

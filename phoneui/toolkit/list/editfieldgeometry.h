@@ -16,6 +16,9 @@ QRect checkLineEdit(const QRect &row, int margin, bool useTitleText);
 /// A time, with or without the plate for the half of the day to its right.
 QRect timeEdit(const QRect &row, bool useAmPm);
 
+/// Where a frameless line edit with this rectangle puts a line of that height.
+QRect textOf(const QRect &edit, int textHeight);
+
 }
 
 #endif

@@ -1,5 +1,6 @@
 #include "formpainting.h"
 
+#include "editfieldgeometry.h"
 #include "rowpainting.h"
 
 #include <QPainter>
@@ -41,11 +42,7 @@ QRect fieldRect(const QRect &edit)
 
 void drawField(QPainter *painter, const QRect &edit, bool selected, const QString &text)
 {
-    // A frameless QLineEdit leaves that much free beside its text, and gives a spare pixel to the space above it.
-    static constexpr int EditMargin = 2;
-    const int textHeight = painter->fontMetrics().height();
-    const QRect textRect(edit.left() + EditMargin, edit.top() + (edit.height() - textHeight + 1) / 2,
-                         edit.width() - 2 * EditMargin, textHeight);
+    const QRect textRect = EditFieldGeometry::textOf(edit, painter->fontMetrics().height());
 
     RowPainting::drawSlices(painter, fieldRect(edit), QStringLiteral(":/ui/images/widget/inputbox"),
                             selected ? QString() : QStringLiteral("_sel"));

@@ -1,0 +1,63 @@
+#include "softkeypainting.h"
+
+#include "core.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int SmallPointSize = 18;
+const QColor grey(187, 187, 187);
+
+/// The colours of the two designs of the phone.
+struct Colours
+{
+    QColor outline, body, empty, textUp, textDown;
+};
+
+Colours colours()
+{
+    return SoftKeyPainting::isDarkDesign() ? Colours{grey, Qt::black, grey, Qt::white, Qt::black}
+                                           : Colours{Qt::black, Qt::white, Qt::white, Qt::black, Qt::white};
+}
+
+}
+
+namespace SoftKeyPainting {
+
+bool isDarkDesign()
+{
+    return theCore->designType() == 1;
+}
+
+QFont fittedFont(QFont font, const QString &text, int widest)
+{
+    if (font.pointSize() == PointSize && QFontMetrics(font).horizontalAdvance(text) >= widest)
+        font.setPointSize(SmallPointSize);
+    return font;
+}
+
+void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const QColor &body)
+{
+    const Colours c = colours();
+    const QColor fill = body.isValid() ? body : c.body;
+    const QRect plate = key.adjusted(2, 0, -2, 0);
+    if (down) {
+        painter->fillRect(plate, c.outline);
+    } else if (isDarkDesign()) {
+        painter->fillRect(plate, empty ? c.empty : fill);
+    } else if (empty) {
+        painter->fillRect(plate, grey);
+    } else {
+        painter->fillRect(plate, c.outline);
+        painter->fillRect(key.adjusted(OutlineSide, OutlineTop, -OutlineSide, 0), fill);
+    }
+}
+
+QColor textColor(bool down)
+{
+    const Colours c = colours();
+    return down ? c.textDown : c.textUp;
+}
+
+}
