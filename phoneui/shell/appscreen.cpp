@@ -4,7 +4,6 @@
 #include "listview.h"
 #include "status.h"
 #include "tail.h"
-#include "windowstack.h"
 
 #include <QApplication>
 
@@ -26,13 +25,8 @@ bool AppScreen::start(QWidget *, void *)
             return true;
         }
     }
-    bringUp();
+    comeToFront();
     return true;
-}
-
-void AppScreen::bringUp()
-{
-    WindowStack::bringUp(this);
 }
 
 void AppScreen::end()

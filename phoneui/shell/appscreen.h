@@ -26,8 +26,8 @@ protected:
     virtual QString title() const = 0;
     void setupStatus() override;
     void showEvent(QShowEvent *event) override;
-    /// Shows the application over all others.
-    virtual void bringUp();
+    /// Shows the application, or the screen of it that was in front, over all others.
+    virtual void comeToFront() { bringUp(); }
     /// The texts of the soft keys from the first on; an empty one leaves its key without a function.
     void setSoftKeys(const QStringList &texts);
 };

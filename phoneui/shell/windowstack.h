@@ -22,9 +22,6 @@ public:
     /// The topmost window that can be active.
     QWidget *top() const;
 
-    /// Shows a window over all others and makes it active. It must be modal to take keys when one below it is.
-    static void bringUp(QWidget *window);
-
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:

@@ -22,7 +22,7 @@ gone() {
 
 phoneui --empty --no-peers --script /dev/null
 [ "$(port)" = 0 ] || fail "a port without a call manager"
-printf '[Dial]\nAlertTime=50\nAnswerTime=50\nBusyTime=300\n' >"$PHONE_HOME/config/cm.conf"
+printf '[Dial]\nAlertTime=50\nAnswerTime=50\nBusyTime=1000\n' >"$PHONE_HOME/config/cm.conf"
 start_phone
 phonectl expect softkeys Contacts History Messages Keys
 

@@ -7,7 +7,6 @@
 #include "status.h"
 #include "tail.h"
 #include "tocmsocket.h"
-#include "windowstack.h"
 
 #include <QDataStream>
 #include <QDebug>
@@ -80,7 +79,7 @@ bool Call::start(QWidget *, void *)
     if (isActiveWindow())
         end();
     else if (isUnderWay())
-        WindowStack::bringUp(this);
+        bringUp();
     return true;
 }
 
@@ -130,7 +129,7 @@ void Call::takeState(const QString &state, const QString &number, const QString 
         m_talking.start();
     theCore->callManager()->setCallState(state);
     if (begins)
-        WindowStack::bringUp(this);
+        bringUp();
     refresh();
 }
 

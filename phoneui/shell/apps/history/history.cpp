@@ -8,7 +8,6 @@
 #include "listviewcallitem.h"
 #include "status.h"
 #include "tail.h"
-#include "windowstack.h"
 
 #include <QDataStream>
 #include <QLocale>
@@ -98,7 +97,7 @@ void History::open(const QString &number)
     m_number = number;
     m_calls.clear();
     reload();
-    WindowStack::bringUp(this);
+    bringUp();
     m_list->setFocus(Qt::OtherFocusReason);
 }
 

@@ -9,7 +9,6 @@
 #include "listviewsubtitleitem.h"
 #include "status.h"
 #include "tail.h"
-#include "windowstack.h"
 
 #include <QLocale>
 
@@ -62,13 +61,13 @@ void MessageApp::end()
     AppScreen::end();
 }
 
-void MessageApp::bringUp()
+void MessageApp::comeToFront()
 {
     // A message that is being written lies over the list, or is there alone.
     if (m_form->isVisible())
-        WindowStack::bringUp(m_form);
+        m_form->bringUp();
     else
-        AppScreen::bringUp();
+        AppScreen::comeToFront();
 }
 
 void MessageApp::receiveMsg(const QString &command, const QByteArray &payload)

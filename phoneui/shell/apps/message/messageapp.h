@@ -20,7 +20,7 @@ public:
 
 protected:
     QString title() const override;
-    void bringUp() override;
+    void comeToFront() override;
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -9,7 +9,6 @@
 #include "status.h"
 #include "tail.h"
 #include "toast.h"
-#include "windowstack.h"
 
 #include <QLineEdit>
 
@@ -63,7 +62,7 @@ void MessageForm::open(const QString &number, const QString &text)
     dropToast();
     m_text->setEditText(text);
     setReceiver(number);
-    WindowStack::bringUp(this);
+    bringUp();
 }
 
 void MessageForm::setReceiver(const QString &number)

@@ -23,6 +23,8 @@ public:
 
     explicit MessageForm(QWidget *parent);
 
+    using BaseWidget::bringUp;
+
     /// Shows the form for a new message, whatever it held before.
     void open(const QString &number, const QString &text);
     /// Gives the message that is being written its receiver.
