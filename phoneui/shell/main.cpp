@@ -3,6 +3,7 @@
 #include "displaysetup.h"
 #include "log.h"
 #include "phone.h"
+#include "ringtones.h"
 #include "terminationsignals.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@ struct Options
 {
     QString home, platform, language, script;
     bool empty = false;
+    bool peers = true;
 };
 
 /// Reads the command line; false when the program has to end with `exitCode`.
@@ -31,6 +33,7 @@ bool readOptions(const QStringList &arguments, Options *options, int *exitCode)
     parser.addHelpOption();
     parser.addOption({"home", "The folder with all that the phone keeps.", "DIR"});
     parser.addOption({"empty", "Give a new home no demonstration data."});
+    parser.addOption({"no-peers", "Start no processes beside the phone: it calls nobody."});
     parser.addOption({"platform", "The Qt platform: offscreen (the default), linuxfb, eglfs, vnc.", "NAME"});
     parser.addOption({"language", "The language, such as de_DE; it is kept in the settings.", "NAME"});
     parser.addOption({"script", "Run this phonectl script and end with its exit code.", "FILE"});
@@ -44,8 +47,8 @@ bool readOptions(const QStringList &arguments, Options *options, int *exitCode)
         *exitCode = 0;
         return false;
     }
-    *options = {parser.value("home"), parser.value("platform"), parser.value("language"), parser.value("script"),
-                parser.isSet("empty")};
+    *options = {parser.value("home"),   parser.value("platform"), parser.value("language"),
+                parser.value("script"), parser.isSet("empty"),    !parser.isSet("no-peers")};
     return true;
 }
 
@@ -99,6 +102,7 @@ int main(int argc, char **argv)
     const bool isNew = !QFile::exists(home.configList());
     if (!home.create())
         return 1;
+    installRingTones(home);
     home.enter();
     // A phone that runs without a login session brings its own runtime folder.
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
@@ -118,6 +122,8 @@ int main(int argc, char **argv)
     }
     if (!phone.powerOn())
         return 1;
+    if (options.peers)
+        phone.startPeers();
     TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received, &app, [] { QCoreApplication::exit(0); });
     if (!options.script.isEmpty())

@@ -6,7 +6,6 @@
 #include "keyinjection.h"
 #include "message.h"
 #include "peerlink.h"
-#include "soundmanager.h"
 #include "testcase.h"
 #include "textcodec.h"
 #include "tocmsocket.h"
@@ -67,7 +66,7 @@ private slots:
     void injectedKeys();
     void dialRequest();
     void shellLink();
-    void soundsAndCalls();
+    void callsAndPresence();
     void texts();
 
 private:
@@ -307,27 +306,8 @@ void TestPlatform::shellLink()
     QCOMPARE(socket->readAll(), QByteArray("\0\0\0", 3) + char(body.size()) + body);
 }
 
-void TestPlatform::soundsAndCalls()
+void TestPlatform::callsAndPresence()
 {
-    for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "note.txt"}) {
-        QFile file(m_core->ringtonePath() + '/' + name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    QList<QFileInfo> files;
-    m_core->soundManager()->addRingDir(files, m_core->ringtonePath(), "*ring*");
-    m_core->soundManager()->addRingDir(files, m_core->ringtonePath(), "*.wav");
-    QStringList names;
-    for (const QFileInfo &file : files)
-        names.append(file.fileName());
-    QCOMPARE(names, QStringList({"a_ring.mp3", "b_ring.wav", "b_ring.wav", "tone.wav"}));
-
-    QSignalSpy stopped(m_core->soundManager(), &SoundManager::soundStopped);
-    m_core->soundManager()->stopSound(false);
-    m_core->soundManager()->playSound("a", false, "RING");
-    m_core->soundManager()->playSound("b", false, "RING");
-    QCOMPARE(m_core->soundManager()->playing(), QString("b"));
-    QCOMPARE(stopped.size(), 1);
-
     QSignalSpy changed(m_core->callManager(), &CallManager::callStateChanged);
     m_core->callManager()->setCallState("CONNECT");
     m_core->callManager()->setCallState("CONNECT");

@@ -13,6 +13,7 @@ private slots:
     void theNextBelowBecomesActive();
     void aWindowShownAgainAtOnceIsActive();
     void raisingChangesTheOrder();
+    void aWindowThatGoesAndComesBackAtOnce();
     void aWindowWithoutFocusIsNeverActive();
     void thePictureHasTheTopmostLast();
 };
@@ -64,6 +65,17 @@ void WindowStackTest::raisingChangesTheOrder()
     a.raise();
     QTRY_COMPARE(QApplication::activeWindow(), &a);
     QCOMPARE(TestScreen::windows().windows(), (QList<QWidget *>{&b, &a}));
+}
+
+void WindowStackTest::aWindowThatGoesAndComesBackAtOnce()
+{
+    QLineEdit low, high;
+    QVERIFY(PhoneKeys::showAndActivate(&low));
+    QVERIFY(PhoneKeys::showAndActivate(&high));
+    high.hide();
+    high.show();
+    QTRY_COMPARE(QApplication::activeWindow(), &high);
+    QVERIFY(high.hasFocus());
 }
 
 void WindowStackTest::aWindowWithoutFocusIsNeverActive()

@@ -12,6 +12,8 @@ public:
     /// contacts; `line` -1 leaves the choice of the line to the call manager.
     static void sendUI2CMSvcDialer(int handle, const QString &mode, const QString &number, const QString &name,
                                    const QString &callMode, int callType, int line);
+    /// Ends the call, whatever its state.
+    static void sendUI2CMSvcHangup();
 };
 
 #endif

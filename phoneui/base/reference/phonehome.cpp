@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::array<const char *, 7> Folders
-    = {"config", "data", "data/photos", "mobile", "ringtones", "ringtones/download", "run"};
+constexpr std::array<const char *, 8> Folders
+    = {"config", "data", "data/photos", "mobile", "ringtones", "ringtones/basicring", "ringtones/download", "run"};
 
 constexpr QFile::Permissions UserOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions Everyone = UserOnly | QFile::ReadGroup | QFile::ReadOther;

@@ -1,23 +1,76 @@
 #include "soundmanager.h"
 
+#include "soundplayer.h"
+#include "wavfile.h"
+
+#include <QDebug>
 #include <QDir>
+
+static constexpr int ShortestMs = 100; // a click that repeats must not keep the machine busy
+
+SoundManager::SoundManager(QObject *parent) : QObject(parent), m_player(new SoundPlayer(this))
+{
+    m_lengthTimer.setSingleShot(true);
+    m_lengthTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_lengthTimer, &QTimer::timeout, this, &SoundManager::timeIsOver);
+    connect(m_player, &SoundPlayer::finished, this, [this] {
+        if (m_repeat && !m_lengthTimer.isActive())
+            sound();
+    });
+}
+
+SoundManager::~SoundManager() = default;
 
 void SoundManager::addRingDir(QList<QFileInfo> &files, const QString &folder, const QString &pattern) const
 {
-    files += QDir(folder).entryInfoList({pattern}, QDir::Files, QDir::Name);
+    const QDir root(folder);
+    files += root.entryInfoList({pattern}, QDir::Files, QDir::Name);
+    const QStringList folders = root.entryList({pattern}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QString &name : folders)
+        files += QDir(root.filePath(name)).entryInfoList({"*.wav"}, QDir::Files, QDir::Name);
 }
 
 void SoundManager::playSound(const QString &path, bool repeat, const QString &channel)
 {
-    Q_UNUSED(repeat)
     stopSound(true);
+    const int length = wavDuration(path);
+    if (length <= 0) {
+        qDebug() << "SoundManager::playSound: nothing to hear in" << path;
+        return;
+    }
     m_playing = path;
+    m_repeat = repeat;
+    m_lengthTimer.setInterval(qMax(length, ShortestMs));
+    sound();
     emit soundStarted(path, channel);
+}
+
+void SoundManager::sound()
+{
+    m_lengthTimer.start();
+    m_player->play(m_playing);
+}
+
+void SoundManager::timeIsOver()
+{
+    // The sound card is a moment behind: the last of the sound is neither cut off nor overtaken.
+    if (!m_repeat)
+        becomeSilent();
+    else if (!m_player->isSounding())
+        sound();
 }
 
 void SoundManager::stopSound(bool keepChannel)
 {
-    Q_UNUSED(keepChannel)
+    Q_UNUSED(keepChannel) // the reference has one channel
+    m_player->stop();
+    becomeSilent();
+}
+
+void SoundManager::becomeSilent()
+{
+    m_lengthTimer.stop();
+    m_repeat = false;
     if (m_playing.isEmpty())
         return;
     m_playing.clear();

@@ -3,6 +3,7 @@
 #include "apppayload.h"
 #include "core.h"
 #include "message.h"
+#include "soundmanager.h"
 
 #include <QJsonObject>
 
@@ -14,6 +15,12 @@ MessageLog::MessageLog(QObject *parent) : QObject(parent)
             [this](const QString &target, const QString &command, const QByteArray &payload) {
                 add(target, command, QJsonArray::fromVariantList(AppPayload::decode(command, payload)));
             });
+    // What the phone plays stands here too, as a machine without a sound card gives no other sign of it.
+    connect(theCore->soundManager(), &SoundManager::soundStarted, this,
+            [this](const QString &path, const QString &channel) {
+                add("sound", "play(str,str)", {path, channel});
+            });
+    connect(theCore->soundManager(), &SoundManager::soundStopped, this, [this] { add("sound", "stop()", {}); });
     message_SetObserver([this](const Message &message) {
         QJsonArray args;
         for (const QVariant &argument : message.arguments)

@@ -4,7 +4,8 @@
 #include <QJsonArray>
 #include <QObject>
 
-/// What the phone has sent since it was last asked: application messages, and datagrams under the peer's name.
+/// What the phone has sent since it was last asked: application messages, datagrams under the peer's name, and
+/// sounds under "sound".
 class MessageLog : public QObject
 {
     Q_OBJECT

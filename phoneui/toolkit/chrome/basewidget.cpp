@@ -28,6 +28,15 @@ BaseWidget::BaseWidget(QWidget *parent) : QDialog(parent, Qt::FramelessWindowHin
 
 void BaseWidget::setupStatus() { }
 
+void BaseWidget::bringUp()
+{
+    if (isVisible() && isActiveWindow())
+        return;
+    // Of modal windows the one shown last takes the keys; raising alone would leave it blocked.
+    hide();
+    show();
+}
+
 void BaseWidget::updateStatus()
 {
     if (!status)

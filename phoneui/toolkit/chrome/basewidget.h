@@ -36,6 +36,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    /// Shows the screen over all others, also when it is visible below them. It must be modal to take keys when one
+    /// of those is.
+    void bringUp();
     /// Puts the screen's title and state on the status bar.
     virtual void setupStatus();
 

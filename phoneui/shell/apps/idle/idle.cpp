@@ -1,6 +1,10 @@
 #include "idle.h"
 
+#include "callmanager.h"
+#include "control/apppayload.h"
 #include "core.h"
+#include "dialer.h"
+#include "rowpainting.h"
 #include "status.h"
 #include "tail.h"
 
@@ -9,21 +13,53 @@
 #include <QLocale>
 #include <QPainter>
 
+#include <iterator>
+
 namespace {
 
-constexpr QRect ClockRect(0, 8, 384, 60);
-constexpr QRect DateRect(0, 68, 384, 28);
-constexpr int ClockSize = 60, DateSize = 20;
-constexpr int ContactsKey = 0;
+constexpr int ClockSize = 60, DateSize = 20, FavouriteSize = 18;
+constexpr QRect ClockRect(0, 8, 384, 60), DateRect(0, 68, 384, 28);
+// With a favourite below, clock and date move closer.
+constexpr QRect UpperClockRect(0, 0, 384, 52), UpperDateRect(0, 51, 384, 24);
+constexpr int FavouriteTop = 78, FavouriteHeight = 24, FavouriteMostWidth = 340;
+
+/// The soft keys and the applications that they launch.
+struct Way
+{
+    const char *label;
+    const char *app;
+};
+constexpr Way ways[] = {
+    {QT_TRANSLATE_NOOP("Idle", "Contacts"), "contact"},
+    {QT_TRANSLATE_NOOP("Idle", "History"), "history"},
+    {QT_TRANSLATE_NOOP("Idle", "Messages"), "message"},
+    {QT_TRANSLATE_NOOP("Idle", "Keys"), "aom"},
+};
+
+/// During a call the way back to it takes the place of another.
+constexpr Way wayToCall = {QT_TRANSLATE_NOOP("Idle", "Call"), "call"};
+constexpr int CallKey = 2;
+
+const Way &wayOf(int key)
+{
+    return key == CallKey && theCore->callManager()->callState() != "IDLE" ? wayToCall : ways[key];
+}
+
+bool isOk(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
 
 }
 
-Idle::Idle() : BaseWidget(nullptr), BaseAppInterface("idle", nullptr)
+Idle::Idle()
+    : BaseWidget(nullptr), BaseAppInterface("idle", nullptr), m_favourite(theCore->home().path("config/idle.ini"))
 {
     setObjectName("idle");
     setFocusPolicy(Qt::StrongFocus);
     setupTail();
     connect(tail, &Tail::clicked, this, &Idle::softKeyClicked);
+    connect(theCore->callManager(), &CallManager::callStateChanged, this, &Idle::setupTail);
     // The clock is right within a second of the minute's turn.
     m_clockTimer.setInterval(1000);
     connect(&m_clockTimer, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
@@ -41,29 +77,72 @@ void Idle::end()
     setVisible(false);
 }
 
-void Idle::receiveMsg(const QString &command, const QByteArray &)
+struct Idle::Command
 {
-    if (command == "raiseStatus()")
-        raiseStatus();
-    else if (command == "lowerStatus()")
-        lowerStatus();
-    else if (command == "changedLanguage()") {
-        reloadLanguage();
-        setupTail();
+    const char *text;
+    void (Idle::*handler)(const QStringList &items);
+};
+
+void Idle::receiveMsg(const QString &command, const QByteArray &payload)
+{
+    static const Command commands[] = {
+        {"raiseStatus()", &Idle::raiseStatus},
+        {"lowerStatus()", &Idle::lowerStatus},
+        {"changedLanguage()", &Idle::changedLanguage},
+        {"searchContactResult(str,str)", &Idle::searchContactResult},
+        {"contactUpdatedNumber(str,str)", &Idle::contactUpdatedNumber},
+        {"contactDeletedNumber(str)", &Idle::contactDeletedNumber},
+        {"contactAllDelete()", &Idle::contactAllDelete},
+    };
+    for (const Command &known : commands) {
+        if (command != QLatin1String(known.text))
+            continue;
+        QStringList items;
+        const QVariantList decoded = AppPayload::decode(command, payload);
+        for (const QVariant &item : decoded)
+            items.append(item.toString());
+        (this->*known.handler)(items);
         update();
     }
 }
 
-void Idle::raiseStatus()
+void Idle::raiseStatus(const QStringList &)
 {
     if (status)
         status->setStatusIcon_isCall(true);
 }
 
-void Idle::lowerStatus()
+void Idle::lowerStatus(const QStringList &)
 {
     if (status)
         status->setStatusIcon_isCall(false);
+}
+
+void Idle::changedLanguage(const QStringList &)
+{
+    reloadLanguage();
+    setupTail();
+}
+
+void Idle::searchContactResult(const QStringList &items)
+{
+    m_favourite.set(items.value(0), items.value(1));
+}
+
+void Idle::contactUpdatedNumber(const QStringList &items)
+{
+    if (items.size() == 2)
+        m_favourite.numberUpdated(items.first(), items.last());
+}
+
+void Idle::contactDeletedNumber(const QStringList &items)
+{
+    m_favourite.numberDeleted(items.value(0));
+}
+
+void Idle::contactAllDelete(const QStringList &)
+{
+    m_favourite.clear();
 }
 
 void Idle::setupStatus()
@@ -75,24 +154,42 @@ void Idle::setupStatus()
 
 void Idle::setupTail()
 {
-    tail->setFuncButtonText(ContactsKey, tr("Contacts"));
-    for (int i = 1; i < Tail::ButtonCount; ++i)
-        tail->setFuncButtonText(i, QString());
+    for (int key = 0; key < int(std::size(ways)); ++key)
+        tail->setFuncButtonText(key, tr(wayOf(key).label));
 }
 
 void Idle::softKeyClicked(int idx)
 {
-    if (idx == ContactsKey)
-        theCore->launch("contact", nullptr);
+    if (idx >= 0 && idx < int(std::size(ways)))
+        theCore->launch(wayOf(idx).app, nullptr);
+}
+
+void Idle::callFavourite()
+{
+    if (m_favourite.isSet())
+        dial(m_favourite.number(), m_favourite.name());
+}
+
+void Idle::keyPressEvent(QKeyEvent *event)
+{
+    if (isOk(event->key()))
+        m_okPressed = true;
+    else
+        BaseWidget::keyPressEvent(event);
 }
 
 void Idle::keyReleaseEvent(QKeyEvent *event)
 {
-    // There is nothing below the home screen to go back to.
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape) {
+        // There is nothing below the home screen to go back to.
         event->accept();
-    else
+    } else if (isOk(event->key())) {
+        if (m_okPressed)
+            callFavourite();
+        m_okPressed = false;
+    } else {
         BaseWidget::keyReleaseEvent(event);
+    }
 }
 
 void Idle::showEvent(QShowEvent *event)
@@ -112,19 +209,54 @@ void Idle::paintEvent(QPaintEvent *event)
 {
     BaseWidget::paintEvent(event);
     QPainter painter(this);
+    paintClock(&painter);
+    if (m_favourite.isSet())
+        paintFavourite(&painter);
+}
+
+void Idle::paintClock(QPainter *painter)
+{
     const QDateTime now = QDateTime::currentDateTime();
-    const QLocale locale(theCore->languageName());
+    const bool upper = m_favourite.isSet();
 
     QFont clock = font();
     clock.setPointSize(ClockSize);
     clock.setWeight(QFont::Light);
-    painter.setFont(clock);
-    painter.setPen(QColor(0x22, 0x22, 0x22));
-    painter.drawText(ClockRect, Qt::AlignCenter, now.toString(theCore->use24HourTime() ? "hh:mm" : "h:mm AP"));
+    painter->setFont(clock);
+    painter->setPen(QColor(0x22, 0x22, 0x22));
+    painter->drawText(upper ? UpperClockRect : ClockRect, Qt::AlignCenter,
+                      now.toString(theCore->use24HourTime() ? "hh:mm" : "h:mm AP"));
 
     QFont date = font();
     date.setPointSize(DateSize);
-    painter.setFont(date);
-    painter.setPen(QColor(0x55, 0x55, 0x55));
-    painter.drawText(DateRect, Qt::AlignCenter, locale.toString(now.date(), QLocale::LongFormat));
+    painter->setFont(date);
+    painter->setPen(QColor(0x55, 0x55, 0x55));
+    painter->drawText(upper ? UpperDateRect : DateRect, Qt::AlignCenter,
+                      QLocale(theCore->languageName()).toString(now.date(), QLocale::LongFormat));
+}
+
+void Idle::paintFavourite(QPainter *painter)
+{
+    static constexpr int Side = 12, Gap = 6;
+    static const QColor ground(0x22, 0x22, 0x22);
+
+    QFont small = font();
+    small.setPointSize(FavouriteSize);
+    painter->setFont(small);
+    const QPixmap sign
+        = RowPainting::inked(QPixmap(QStringLiteral(":/ui/images/title/status_call.png")), Qt::white);
+    const int aroundText = 2 * Side + sign.width() + Gap;
+    const QString text = painter->fontMetrics().elidedText(m_favourite.name().isEmpty() ? m_favourite.number()
+                                                                                        : m_favourite.name(),
+                                                           Qt::ElideRight, FavouriteMostWidth - aroundText);
+    const int plateWidth = aroundText + painter->fontMetrics().horizontalAdvance(text);
+    const QRect plate((width() - plateWidth) / 2, FavouriteTop, plateWidth, FavouriteHeight);
+
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(ground);
+    painter->drawRoundedRect(plate, FavouriteHeight / 2.0, FavouriteHeight / 2.0);
+    RowPainting::drawCentred(painter, plate, plate.left() + Side, sign);
+    painter->setPen(Qt::white);
+    painter->drawText(plate.adjusted(Side + sign.width() + Gap, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text);
 }

@@ -3,13 +3,16 @@
 
 #include "baseappinterface.h"
 #include "basewidget.h"
+#include "favourite.h"
 
 #include <QTimer>
 
-/// The home screen: the clock, the date, and the way into the applications. It is always there below the others.
+/// The home screen: the clock, the date, the favourite to call, and the way into the applications. It is always
+/// there below the others.
 class Idle : public BaseWidget, public BaseAppInterface
 {
     Q_OBJECT
+    Q_INTERFACES(BaseAppInterface)
 
 public:
     Idle();
@@ -20,18 +23,33 @@ public:
 
 protected:
     void setupStatus() override;
+    void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
+    struct Command;
+
     void setupTail();
     void softKeyClicked(int idx);
-    void raiseStatus();
-    void lowerStatus();
+    void callFavourite();
+
+    void raiseStatus(const QStringList &items);
+    void lowerStatus(const QStringList &items);
+    void changedLanguage(const QStringList &items);
+    void searchContactResult(const QStringList &items);
+    void contactUpdatedNumber(const QStringList &items);
+    void contactDeletedNumber(const QStringList &items);
+    void contactAllDelete(const QStringList &items);
+
+    void paintClock(QPainter *painter);
+    void paintFavourite(QPainter *painter);
 
     QTimer m_clockTimer;
+    Favourite m_favourite;
+    bool m_okPressed = false; ///< here, and not in what closed above
 };
 
 #endif

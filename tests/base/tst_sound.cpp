@@ -1,0 +1,237 @@
+#include "soundmanager.h"
+#include "testcase.h"
+#include "wavfile.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <csignal>
+
+namespace {
+
+constexpr int Rate = 32000; // bytes a second
+
+QByteArray number(quint32 value)
+{
+    QByteArray bytes(4, '\0');
+    qToLittleEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray chunk(const QByteArray &name, const QByteArray &content)
+{
+    return name + number(content.size()) + content + QByteArray(content.size() % 2, '\0');
+}
+
+QByteArray format(quint32 byteRate, int extra = 0)
+{
+    return chunk("fmt ",
+                 QByteArray("\1\0\1\0", 4) + number(16000) + number(byteRate) + QByteArray("\2\0\20\0", 4)
+                     + QByteArray(extra, '\0'));
+}
+
+QByteArray wav(const QByteArray &chunks)
+{
+    return "RIFF" + number(4 + chunks.size()) + "WAVE" + chunks;
+}
+
+QByteArray sound(int milliseconds)
+{
+    return chunk("data", QByteArray(Rate / 1000 * milliseconds, '\0'));
+}
+
+}
+
+class SoundTest : public TestCase
+{
+    Q_OBJECT
+
+    void setUp() override
+    {
+        m_dir.reset(new QTemporaryDir);
+        m_path = qgetenv("PATH");
+        qputenv("PATH", m_dir->path().toLocal8Bit() + ":/usr/bin:/bin");
+        m_sounds.reset(new SoundManager);
+    }
+    void tearDown() override
+    {
+        m_sounds.reset();
+        qputenv("PATH", m_path);
+        m_dir.reset();
+    }
+
+private slots:
+    void durations_data();
+    void durations();
+    void filesThatAreNone();
+    void listsTonesOfAFolder();
+    void holdsForItsLength();
+    void repeatsUntilItIsStopped();
+    void theNextSoundEndsTheLast();
+    void whatCannotBePlayedIsSilence();
+
+private:
+    QString makeFile(const QString &name, const QByteArray &content)
+    {
+        QFile file(m_dir->filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qWarning("%s was not written", qPrintable(name));
+        return file.fileName();
+    }
+    QString makeSound(const QString &name, int milliseconds)
+    {
+        return makeFile(name, wav(format(Rate) + sound(milliseconds)));
+    }
+    /// A player that notes its process and its file, one line each time, and goes on with `rest`.
+    void makePlayer(const QByteArray &rest)
+    {
+        const QString path
+            = makeFile("aplay", "#!/bin/sh\nshift 2\necho $$ $1 >>\"$(dirname \"$0\")/played\"\n" + rest + "\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QList<QByteArray> played()
+    {
+        QFile file(m_dir->filePath("played"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split('\n') : QList<QByteArray>();
+    }
+    static bool isRunning(const QByteArray &line) { return kill(line.split(' ').first().toInt(), 0) == 0; }
+
+    QScopedPointer<QTemporaryDir> m_dir;
+    QScopedPointer<SoundManager> m_sounds;
+    QByteArray m_path;
+};
+
+void SoundTest::durations_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("milliseconds");
+    const QByteArray title = chunk("LIST", "odd");
+    const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
+
+    QTest::newRow("plain") << wav(format(Rate) + sound(250)) << 250;
+    QTest::newRow("a long format and chunks between") << wav(title + format(Rate, 24) + title + sound(250)) << 250;
+    QTest::newRow("chunks behind") << wav(format(Rate) + sound(250) + title) << 250;
+    QTest::newRow("streamed") << wav(format(Rate) + openData) << 1000;
+    QTest::newRow("cut off") << wav(format(Rate) + sound(250)).chopped(Rate / 10) << 150;
+    QTest::newRow("nothing in it") << wav(format(Rate) + sound(0)) << 0;
+    QTest::newRow("a day is the most") << wav(format(1) + sound(10000)) << 24 * 60 * 60 * 1000;
+
+    QTest::newRow("empty") << QByteArray() << -1;
+    QTest::newRow("text") << QByteArray("This is no sound at all.") << -1;
+    QTest::newRow("head alone") << wav({}) << -1;
+    QTest::newRow("another RIFF") << wav(format(Rate) + sound(250)).replace("WAVE", "AVI ") << -1;
+    QTest::newRow("no format") << wav(sound(250)) << -1;
+    QTest::newRow("no data") << wav(format(Rate) + title) << -1;
+    QTest::newRow("no speed") << wav(format(0) + sound(250)) << -1;
+    QTest::newRow("short format") << wav(chunk("fmt ", "\1\0\1\0") + sound(250)) << -1;
+    QTest::newRow("format cut off") << wav(format(Rate)).chopped(4) << -1;
+    QTest::newRow("chunk beyond the end") << wav(format(Rate) + "LIST" + number(0xFFFFFFF0u) + sound(250)) << -1;
+    QTest::newRow("endless chunks") << wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)) << -1;
+}
+
+void SoundTest::durations()
+{
+    QFETCH(QByteArray, content);
+    QTEST(wavDuration(makeFile("a.wav", content)), "milliseconds");
+}
+
+void SoundTest::filesThatAreNone()
+{
+    QCOMPARE(wavDuration(m_dir->filePath("missing.wav")), -1);
+    QCOMPARE(wavDuration(m_dir->path()), -1);
+    QCOMPARE(wavDuration("/dev/zero"), -1);
+    QCOMPARE(wavDuration(QString()), -1);
+}
+
+void SoundTest::listsTonesOfAFolder()
+{
+    const QDir dir(m_dir->path());
+    for (const char *folder : {"basicring", "download", "ring.wav"})
+        QVERIFY(dir.mkdir(folder));
+    for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "note.txt", "basicring/Bell.wav",
+                             "basicring/Alarm.WAV", "basicring/note.txt", "download/mine.wav", "ring.wav/x.wav"})
+        makeFile(name, {});
+    const auto names = [&](const QString &folder, const QString &pattern) {
+        QList<QFileInfo> files;
+        m_sounds->addRingDir(files, folder, pattern);
+        QStringList found;
+        for (const QFileInfo &file : qAsConst(files))
+            found.append(dir.relativeFilePath(file.filePath()));
+        return found;
+    };
+    QCOMPARE(
+        names(dir.path(), "*ring*"),
+        QStringList({"a_ring.mp3", "b_ring.wav", "basicring/Alarm.WAV", "basicring/Bell.wav", "ring.wav/x.wav"}));
+    QCOMPARE(names(dir.filePath("download"), "*.wav"), QStringList({"download/mine.wav"}));
+    QCOMPARE(names(dir.filePath("missing"), "*.wav"), QStringList());
+}
+
+void SoundTest::holdsForItsLength()
+{
+    makePlayer("echo 'no sound card' >&2; exit 1");
+    const QString path = makeSound("a.wav", 300);
+    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
+    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
+    m_sounds->playSound(path, false, "RING");
+    QCOMPARE(started.takeFirst(), QVariantList({path, "RING"}));
+    QCOMPARE(m_sounds->playing(), path);
+    // A player that cannot play does not end the sound.
+    QTRY_COMPARE(played().size(), 1);
+    QVERIFY(played().first().endsWith(path.toLocal8Bit()));
+    QVERIFY(stopped.isEmpty());
+    QTRY_VERIFY(m_sounds->playing().isEmpty());
+    QCOMPARE(stopped.size(), 1);
+    m_sounds->stopSound(false);
+    QCOMPARE(stopped.size(), 1);
+}
+
+void SoundTest::repeatsUntilItIsStopped()
+{
+    makePlayer("");
+    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
+    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
+    m_sounds->playSound(makeSound("a.wav", 20), true, "RING");
+    QTRY_VERIFY(played().size() >= 3);
+    QCOMPARE(started.size(), 1);
+    QVERIFY(stopped.isEmpty());
+    m_sounds->stopSound(false);
+    QCOMPARE(stopped.size(), 1);
+}
+
+void SoundTest::theNextSoundEndsTheLast()
+{
+    makePlayer("exec sleep 100");
+    const QString second = makeSound("b.wav", 60000);
+    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
+    m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
+    QTRY_COMPARE(played().size(), 1);
+    m_sounds->playSound(second, false, "RING");
+    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_sounds->playing(), second);
+    QTRY_COMPARE(played().size(), 2);
+    QTRY_VERIFY(!isRunning(played().first()));
+    QVERIFY(isRunning(played().last()));
+    m_sounds->stopSound(false);
+    QTRY_VERIFY(!isRunning(played().last()));
+    m_sounds->playSound(second, true, "RING");
+    QTRY_COMPARE(played().size(), 3);
+    m_sounds.reset(); // the phone ends in the middle of a tone
+    QVERIFY(!isRunning(played().last()));
+}
+
+void SoundTest::whatCannotBePlayedIsSilence()
+{
+    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
+    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
+    m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
+    QCOMPARE(started.size(), 1); // without a player, too
+    m_sounds->playSound(m_dir->filePath("missing.wav"), true, "RING");
+    QVERIFY(m_sounds->playing().isEmpty());
+    QCOMPARE(stopped.size(), 1);
+    m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
+    QCOMPARE(started.size(), 1);
+}
+
+QTEST_GUILESS_MAIN(SoundTest)
+#include "tst_sound.moc"
