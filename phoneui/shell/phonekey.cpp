@@ -1,8 +1,12 @@
 #include "phonekey.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QQueue>
+#include <QTimer>
 #include <QWindow>
 
 namespace PhoneKey {
@@ -64,10 +68,67 @@ const Entry *find(int code)
     return nullptr;
 }
 
+/// The keys on their way to the screens. Each one's window is looked up in its own turn, when the key before it has
+/// done its work: between two screens none has the focus for a moment, and a key pressed quickly must neither get
+/// lost there nor reach the screen that has just gone.
+class KeyQueue : public QObject
+{
+public:
+    explicit KeyQueue(QObject *parent) : QObject(parent) { }
+    ~KeyQueue() override { qDeleteAll(m_keys); }
+
+    bool isRunning() const { return m_isRunning; }
+
+    void append(QKeyEvent *key)
+    {
+        m_keys.enqueue(key);
+        if (!m_isRunning)
+            next();
+    }
+
+private:
+    static constexpr int LongestWait = 500; // ms without any window for keys
+
+    void next()
+    {
+        m_isRunning = true;
+        m_waited.start();
+        QMetaObject::invokeMethod(
+            this, [this] { deliver(); }, Qt::QueuedConnection);
+    }
+
+    void deliver()
+    {
+        QWindow *window = QGuiApplication::focusWindow();
+        const bool takesKeys = window && window->isVisible();
+        if (!takesKeys && m_waited.elapsed() < LongestWait) {
+            QTimer::singleShot(1, this, [this] { deliver(); });
+            return;
+        }
+        QKeyEvent *key = m_keys.dequeue();
+        if (takesKeys)
+            QCoreApplication::postEvent(window, key);
+        else
+            delete key;
+        // The next turn comes behind the key, also in an event loop that the key opens.
+        if (m_keys.isEmpty())
+            m_isRunning = false;
+        else
+            next();
+    }
+
+    QQueue<QKeyEvent *> m_keys;
+    QElapsedTimer m_waited;
+    bool m_isRunning = false;
+};
+
+QPointer<KeyQueue> queue;
+
 void postToFocus(QEvent::Type type, int code, const QString &text, bool repeated)
 {
-    if (QWindow *window = QGuiApplication::focusWindow())
-        QCoreApplication::postEvent(window, new QKeyEvent(type, code, Qt::NoModifier, text, repeated));
+    if (!queue)
+        queue = new KeyQueue(QCoreApplication::instance());
+    queue->append(new QKeyEvent(type, code, Qt::NoModifier, text, repeated));
 }
 
 }
@@ -96,6 +157,11 @@ bool repeats(int code)
 void post(int code, bool press, bool repeated)
 {
     postToFocus(press ? QEvent::KeyPress : QEvent::KeyRelease, code, QString(), repeated);
+}
+
+bool pending()
+{
+    return queue && queue->isRunning();
 }
 
 void postText(const QString &text)

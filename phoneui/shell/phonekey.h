@@ -23,6 +23,9 @@ bool repeats(int code);
 /// unlike those of a PC keyboard: what they write is the input method's business.
 void post(int code, bool press, bool repeated = false);
 
+/// Whether keys are still on their way.
+bool pending();
+
 /// Posts the typing of a text, as a PC keyboard types it.
 void postText(const QString &text);
 

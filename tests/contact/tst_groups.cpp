@@ -18,6 +18,7 @@
 #include "testmain.h"
 #include "testphone.h"
 
+#include <QDataStream>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSqlDatabase>
@@ -26,6 +27,22 @@
 #include <memory>
 
 using namespace PhoneKeys;
+
+/// A WAV file of a second without a sound.
+static QByteArray silence()
+{
+    const QByteArray samples(16000, '\0');
+    QByteArray file;
+    QDataStream stream(&file, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream.writeRawData("RIFF", 4);
+    stream << quint32(36 + samples.size());
+    stream.writeRawData("WAVEfmt ", 8);
+    stream << quint32(16) << quint16(1) << quint16(1) << quint32(8000) << quint32(16000) << quint16(2) << quint16(16);
+    stream.writeRawData("data", 4);
+    stream << quint32(samples.size());
+    return file + samples;
+}
 
 class GroupsTest : public TestCase
 {
@@ -385,7 +402,7 @@ void GroupsTest::refusesGroupNames()
 void GroupsTest::choosesABellWithPreview()
 {
     for (const char *tone : {"ring_b.wav", "ring_A.wav"})
-        m_phone->writeFile("ringtones/download/" + QString(tone), "RIFF");
+        m_phone->writeFile("ringtones/download/" + QString(tone), silence());
     open(new GroupAdd(nullptr, -1));
     QStringList played;
     connect(m_phone->core.soundManager(), &SoundManager::soundStarted, this,
@@ -413,7 +430,7 @@ void GroupsTest::choosesABellWithPreview()
 
 void GroupsTest::nothingSoundsDuringACall()
 {
-    m_phone->writeFile("ringtones/download/ring_A.wav", "RIFF");
+    m_phone->writeFile("ringtones/download/ring_A.wav", silence());
     m_phone->core.callManager()->setCallState("CONNECT");
     open(new GroupAdd(nullptr, -1));
     QSignalSpy played(m_phone->core.soundManager(), &SoundManager::soundStarted);

@@ -90,6 +90,7 @@ protected:
     static void type(const QString &text)
     {
         PhoneKey::postText(text);
+        QVERIFY(QTest::qWaitFor([] { return !PhoneKey::pending(); }));
         settle();
     }
     static QStringList softKeys(QWidget *screen)
