@@ -26,8 +26,8 @@ phonectl key Soft3
 phonectl expect message 'Do you want to delete the contact?'
 phonectl key Soft3
 phonectl expect toast Deleted
-phonectl expect sent idle 'contactDeletedNumber(str)' 0101234
 phonectl key Ok
+phonectl expect sent idle 'contactDeletedNumber(str)' 0101234
 phonectl expect title 'Contacts | All (0/0)'
 
 # All at once.
@@ -37,8 +37,8 @@ phonectl key Soft4
 phonectl expect popup MessageBox
 phonectl key Soft3
 phonectl expect toast Deleted
-phonectl expect sent idle 'contactAllDelete()'
 phonectl key Ok
+phonectl expect sent idle 'contactAllDelete()'
 phonectl expect title 'Contacts | All (0/0)'
 [ -z "$(phonebook list)" ] || fail "contacts are left"
 stop_phone

@@ -112,7 +112,7 @@ QJsonObject boxReport(MessageBoxBase *box)
 QJsonObject listPopupReport(SelectPopupBase *popup)
 {
     auto *list = popup->findChild<ListView *>();
-    return {{"title", QString()},
+    return {{"title", popup->contentsTitle()},
             {"message", QString()},
             {"buttons", buttonTexts({popup->nextButton(), popup->okButton(), popup->cancelButton()})},
             {"rows", rowTexts(list)},

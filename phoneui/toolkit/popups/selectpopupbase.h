@@ -57,6 +57,7 @@ public:
 
     /// Words on the plate, for an owner that makes room for them above the list.
     void setContentsTitle(const QString &title);
+    QString contentsTitle() const { return m_contentsTitle; }
     void setContentsTitlePos(int x, int y);
     void setContentsTitleFont(QFont font);
 

@@ -171,7 +171,9 @@ int NumberEdit::choose(const QString &title, const QStringList &labels, const QL
             popup->nextButton()->setText(">>");
             popup->cancelButton()->setText(tr("Cancel"));
             for (int i = 0; i < labels.size(); ++i) {
-                auto *row = new ListViewRadioItem(labels.at(i), i == current);
+                // A choice among present values shows the present one.
+                ListViewItem *row = current >= 0 ? new ListViewRadioItem(labels.at(i), i == current)
+                                                 : new ListViewItem(labels.at(i), QPixmap(), QPixmap());
                 row->setItemSelectEnable(!disabled.value(i));
                 popup->listView()->addItem(row);
             }
