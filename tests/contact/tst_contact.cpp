@@ -3,6 +3,7 @@
 #include "callmanager.h"
 #include "contactmanager.h"
 #include "contactscreen.h"
+#include "phonescript.h"
 #include "testcase.h"
 #include "testmain.h"
 #include "testphone.h"
@@ -42,6 +43,8 @@ private slots:
     void anEmptiedPhonebookShowsNothing();
     void closesOnCommand();
     void ignoresWhatItDoesNotKnow();
+    void survivesAnyPayload_data();
+    void survivesAnyPayload();
     void presenceOfACell();
     void makesThumbnailsOfLocalPhotos();
     void completesDomains();
@@ -306,6 +309,44 @@ void ContactTest::ignoresWhatItDoesNotKnow()
     QCOMPARE(title(), QString("Contacts | All (1/2)"));
     send("wpsm2ui _noti_contact_changed(int)");
     QCOMPARE(title(), QString("Contacts | All (1/3)"));
+}
+
+void ContactTest::survivesAnyPayload_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QByteArray random;
+    for (int i = 0; i < 64; ++i)
+        random += char(i * 37 + 11);
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("short") << QByteArray::fromHex("0000");
+    QTest::newRow("a length of gigabytes") << QByteArray::fromHex("7ffffffe00410042");
+    QTest::newRow("an odd length") << QByteArray::fromHex("00000003004100");
+    QTest::newRow("a null text") << QByteArray::fromHex("ffffffff");
+    QTest::newRow("longer") << QByteArray::fromHex("0000000200350000000700000007");
+    QTest::newRow("random") << random;
+}
+
+void ContactTest::survivesAnyPayload()
+{
+    QFETCH(QByteArray, payload);
+    m_phone->addContacts(3);
+    open();
+    PhoneScript script;
+    for (const char *command :
+         {"wpsm2ui_contact_picture_ack(str,int,str)", "wpsm2ui _noti_contact_changed(int)",
+          "wpsm2ui_noti_device_connected(int)", "wpsm2ui_noti_device_disconnected(int)", "LogOutResponse(int)"})
+        script.call([=] { m_phone->core.postAppMsg("contact", command, payload); });
+    for (const char *command : {"newContact(str)", "viewContact(str)"}) {
+        script.call([=] {
+            if (!m_screen->app.isVisible())
+                m_screen->app.start(nullptr, nullptr);
+        });
+        script.untilActive("Contact").call([=] { m_phone->core.postAppMsg("contact", command, payload); });
+        script.untilActive(command[0] == 'n' ? "NumberEdit" : "DetailsDial").keys({Qt::Key_Escape});
+        script.until("the application to go", [] { return !QApplication::activeWindow(); });
+    }
+    QCOMPARE(script.run(), QString());
+    QCOMPARE(m_phone->core.contactManager()->getCountOfContact(), 3);
 }
 
 void ContactTest::presenceOfACell()
