@@ -236,7 +236,7 @@ void GroupAdd::clickedListViewItem(int idx)
         for (int i = 0; i < m_ringSorted.size(); ++i) {
             const bool current = m_ringSorted.at(i) == m_bellItem->selectedText();
             auto *row = new ListViewRadioItem(m_ringSorted.at(i), current);
-            row->setData(reinterpret_cast<void *>(static_cast<quintptr>(i)));
+            row->setData(reinterpret_cast<void *>(static_cast<quintptr>(i))); // NOLINT(performance-no-int-to-ptr)
             popup.listView()->addItem(row);
             if (current) {
                 popup.listView()->setSelectedIdx(i);
