@@ -33,22 +33,9 @@ using SlideAct = void (*)(SlideMessageBox &);
 Q_DECLARE_METATYPE(Prepare)
 Q_DECLARE_METATYPE(SlideAct)
 
-class MessageBoxTest : public TestCase
+class MessageBoxTest : public OverScreenTest
 {
     Q_OBJECT
-
-    void setUp() override
-    {
-        m_phone.reset(new TestPhone);
-        m_screen.reset(new AskingScreen);
-        QVERIFY(showAndActivate(m_screen.get()));
-    }
-
-    void tearDown() override
-    {
-        m_screen.reset();
-        m_phone.reset();
-    }
 
 private slots:
     void isBuilt();
@@ -79,8 +66,6 @@ private slots:
 private:
     static void fill(MessageBoxBase &box);
 
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<AskingScreen> m_screen;
 };
 
 void MessageBoxTest::fill(MessageBoxBase &box)

@@ -19,22 +19,9 @@ Q_DECLARE_METATYPE(Prepare)
 Q_DECLARE_METATYPE(Fill)
 
 /// What toasts and popups look like over a screen. With PHONE_PICTURES set, each look is also written there.
-class PopupPicturesTest : public TestCase
+class PopupPicturesTest : public OverScreenTest
 {
     Q_OBJECT
-
-    void setUp() override
-    {
-        m_phone.reset(new TestPhone);
-        m_screen.reset(new AskingScreen);
-        QVERIFY(showAndActivate(m_screen.get()));
-    }
-
-    void tearDown() override
-    {
-        m_screen.reset();
-        m_phone.reset();
-    }
 
 private slots:
     void toasts_data();
@@ -53,8 +40,6 @@ private:
     }
     void shoot(const char *prefix);
 
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<AskingScreen> m_screen;
 };
 
 static QPixmap icon(const char *name)

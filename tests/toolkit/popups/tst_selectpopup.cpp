@@ -43,22 +43,9 @@ public:
     explicit SlidingPopup(QWidget *parent) : SelectPopup(parent, 0) { m_useAnimation = true; }
 };
 
-class SelectPopupTest : public TestCase
+class SelectPopupTest : public OverScreenTest
 {
     Q_OBJECT
-
-    void setUp() override
-    {
-        m_phone.reset(new TestPhone);
-        m_screen.reset(new AskingScreen);
-        QVERIFY(showAndActivate(m_screen.get()));
-    }
-
-    void tearDown() override
-    {
-        m_screen.reset();
-        m_phone.reset();
-    }
 
 private slots:
     void isBuilt();
@@ -88,8 +75,6 @@ private:
         return QTest::qWaitFor([&] { return m_screen->list->hasFocus(); });
     }
 
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<AskingScreen> m_screen;
 };
 
 void SelectPopupTest::isBuilt()

@@ -20,22 +20,9 @@ Q_DECLARE_METATYPE(Act)
 
 constexpr int Forever = 0;
 
-class ToastTest : public TestCase
+class ToastTest : public OverScreenTest
 {
     Q_OBJECT
-
-    void setUp() override
-    {
-        m_phone.reset(new TestPhone);
-        m_screen.reset(new AskingScreen);
-        QVERIFY(showAndActivate(m_screen.get()));
-    }
-
-    void tearDown() override
-    {
-        m_screen.reset();
-        m_phone.reset();
-    }
 
 private slots:
     void isBuilt();
@@ -66,8 +53,6 @@ private:
         return toast.exec();
     }
 
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<AskingScreen> m_screen;
     bool m_stayed = false;
 };
 
