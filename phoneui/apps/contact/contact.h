@@ -17,6 +17,7 @@ class MessageBox;
 class NumberEdit;
 class QDataStream;
 class QLabel;
+class SystemPhonebookListWidget;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
 /// contacts, local ones and those of the paired mobile device in one list by name.
@@ -99,6 +100,7 @@ private:
     void setupChooserRows();
     void showGrid();
     void openPersonalPhonebook();
+    void openSystemPhonebook();
     bool isLastPage() const;
 
     void pressedUp(QKeyEvent *event);
@@ -148,6 +150,7 @@ private:
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
     QList<ContactData> m_allContactList; ///< merged, by name
     ListView *m_selectListView = nullptr;
+    QPointer<SystemPhonebookListWidget> m_systemPhonebookList;
     bool m_systemPhonebookEnabled = false;
 };
 
