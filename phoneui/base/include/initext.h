@@ -2,11 +2,12 @@
 #define INITEXT_H
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 
 #include <functional>
 
-/// Reads INI text from outside the phone. Keys and values come out as QSettings would give them, with three
+/// INI text. Keys and values come out as QSettings would give them, with three
 /// differences that make it safe and sure on a file that anyone may have written:
 ///
 /// - every value is one text: a comma makes no list, and "@Variant(...)" and its like make no object;
@@ -21,6 +22,9 @@ namespace IniText {
 using Visitor = std::function<void(const QString &key, const QString &value)>;
 
 void read(const QByteArray &text, const Visitor &visit);
+
+/// The text from which `read` gets these values back, whatever they hold; QSettings does as well.
+QByteArray write(const QMap<QString, QString> &values);
 
 }
 

@@ -250,3 +250,62 @@ void IniText::read(const QByteArray &text, const Visitor &visit)
         }
     }
 }
+
+namespace {
+
+bool isPlainInKeys(QChar ch)
+{
+    return ch.unicode() < 0x80 && (ch.isLetterOrNumber() || ch == '_' || ch == '-' || ch == '.');
+}
+
+/// The twin of `plainKey`.
+QByteArray escapedKey(const QString &key)
+{
+    QByteArray text;
+    for (const QChar ch : key) {
+        if (isPlainInKeys(ch))
+            text += ch.toLatin1();
+        else if (ch == '/')
+            text += '\\';
+        else if (ch.unicode() < 0x100)
+            text += '%' + QByteArray::number(ch.unicode(), 16).rightJustified(2, '0');
+        else
+            text += "%U" + QByteArray::number(ch.unicode(), 16).rightJustified(4, '0');
+    }
+    return text;
+}
+
+/// The twin of `Value`. All hexadecimal digits behind an "x" belong to it, so that one that follows is escaped too.
+QByteArray escapedValue(const QString &value)
+{
+    QByteArray text = value.startsWith('@') ? "\"@" : "\"";
+    bool isBehindNumber = false;
+    for (const QChar ch : value) {
+        const bool isAscii = ch.unicode() >= 0x20 && ch.unicode() < 0x7f;
+        const bool isPlain = isAscii && !(isBehindNumber && digit(ch.toLatin1(), 16) >= 0);
+        if (!isPlain)
+            text += "\\x" + QByteArray::number(ch.unicode(), 16);
+        else if (ch == '"' || ch == '\\')
+            text += QByteArray("\\") + ch.toLatin1();
+        else
+            text += ch.toLatin1();
+        isBehindNumber = !isPlain;
+    }
+    return text + '"';
+}
+
+}
+
+QByteArray IniText::write(const QMap<QString, QString> &values)
+{
+    QMap<QString, QByteArray> sections;
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        const int slash = it.key().indexOf('/');
+        const QString section = slash < 0 ? QStringLiteral("General") : it.key().left(slash);
+        sections[section] += escapedKey(it.key().mid(slash + 1)) + '=' + escapedValue(it.value()) + '\n';
+    }
+    QByteArray text;
+    for (auto it = sections.begin(); it != sections.end(); ++it)
+        text += (text.isEmpty() ? "[" : "\n[") + escapedKey(it.key()) + "]\n" + it.value();
+    return text;
+}

@@ -1,10 +1,10 @@
 #include "mobiledatabase.h"
 
 #include "contactdatabase.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QFile>
-#include <QSettings>
 
 MobileDatabase::MobileDatabase(const QString &folder) : m_folder(folder)
 {
@@ -18,9 +18,9 @@ void MobileDatabase::reload()
         take(QString(), QString(), {});
         return;
     }
-    const QSettings ini(iniPath, QSettings::IniFormat);
-    const QString generation = ini.value(QStringLiteral("Device/Generation")).toString();
-    const int count = ini.value(QStringLiteral("Device/Count"), -1).toInt();
+    const SettingsFile ini(iniPath);
+    const QString generation = ini.value(QStringLiteral("Device/Generation"));
+    const int count = ini.number(QStringLiteral("Device/Count"), -1);
     if (!generation.isEmpty() && generation == m_generation)
         return;
 
@@ -36,7 +36,7 @@ void MobileDatabase::reload()
     }
     for (ContactData &contact : contacts)
         contact.type = ContactData::MobileContact;
-    take(ini.value(QStringLiteral("Device/Name")).toString(), generation, contacts);
+    take(ini.value(QStringLiteral("Device/Name")), generation, contacts);
 }
 
 void MobileDatabase::take(const QString &deviceName, const QString &generation, const QList<ContactData> &contacts)

@@ -1,9 +1,9 @@
 #include "phonehome.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QSettings>
 #include <QStandardPaths>
 
 #include <array>
@@ -88,15 +88,11 @@ bool PhoneHome::create() const
     // Applications open this one as it stands in the list, so it is absolute and follows a home that was moved.
     const QString key = QStringLiteral("COMMON/IPC_CONF");
     const QString ipcConf = path(QStringLiteral("config/ipc.conf"));
-    QSettings list(configList(), QSettings::IniFormat);
-    if (list.value(key).toString() != ipcConf)
-        list.setValue(key, ipcConf);
-    list.sync();
-    if (list.status() != QSettings::NoError) {
-        qWarning() << "PhoneHome: cannot write" << configList();
-        return false;
-    }
-    return true;
+    SettingsFile list(configList());
+    if (list.value(key) == ipcConf)
+        return true;
+    list.set(key, ipcConf);
+    return list.save();
 }
 
 void PhoneHome::enter() const

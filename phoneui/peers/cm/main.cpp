@@ -5,10 +5,10 @@
 #include "peerlink.h"
 #include "phonehome.h"
 #include "phoneline.h"
+#include "settingsfile.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QSettings>
 
 #include <cstdio>
 
@@ -21,8 +21,8 @@ static const char Description[]
 
 static QByteArray charset(const PhoneHome &home)
 {
-    const QSettings system(home.path(QStringLiteral("config/system.conf")), QSettings::IniFormat);
-    return system.value(QStringLiteral("System/Charset"), QStringLiteral("utf-8")).toString().toLatin1();
+    const SettingsFile system(home.path(QStringLiteral("config/system.conf")));
+    return system.value(QStringLiteral("System/Charset"), QStringLiteral("utf-8")).toLatin1();
 }
 
 int main(int argc, char **argv)

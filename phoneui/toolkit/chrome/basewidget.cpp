@@ -1,13 +1,13 @@
 #include "basewidget.h"
 
 #include "core.h"
+#include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QSettings>
 
 namespace {
 
@@ -41,13 +41,12 @@ void BaseWidget::updateStatus()
 {
     if (!status)
         return;
-    const QSettings settings(theCore->configFileName(SettingsConfig), QSettings::IniFormat);
-    status->setTime24Hour(settings.value("Settings/24HourTime", false).toBool());
+    const SettingsFile settings(theCore->configFileName(SettingsConfig));
+    status->setTime24Hour(settings.flag("Settings/24HourTime"));
 
-    const QSettings system(theCore->configFileName(SystemConfig), QSettings::IniFormat);
-    const bool menuLocked = system.value("Menu_Password/enable", false).toBool();
-    const int callLock
-        = theCore->getSystemType() == LockingSystemType ? system.value("Security/CallLock", 0).toInt() : 0;
+    const SettingsFile system(theCore->configFileName(SystemConfig));
+    const bool menuLocked = system.flag("Menu_Password/enable");
+    const int callLock = theCore->getSystemType() == LockingSystemType ? system.number("Security/CallLock") : 0;
     status->setUIStatusLock(menuLocked);
     status->setUIStatusCallLock(callLock != 0);
 }

@@ -14,12 +14,12 @@
 #include "qcalllist.h"
 #include "ringtones.h"
 #include "screenwatch.h"
+#include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
 #include <QLabel>
-#include <QSettings>
 #include <QTimer>
 
 #include <array>
@@ -181,9 +181,9 @@ void DetailsDial::tailFuncButtonClicked(int idx)
     if (idx == CallKey && label == tr("Call")) {
         callByNumber();
     } else if (idx == MessageKey && label == tr("Message")) {
-        const QSettings provisioning(theCore->sipConfigFileName("phone_info.conf"), QSettings::IniFormat);
-        const bool loggedOut = provisioning.value("Prov_Info/LoginMode").toString().isEmpty()
-            && provisioning.value("Prov_Info/Id").toString().isEmpty();
+        const SettingsFile provisioning(theCore->sipConfigFileName("phone_info.conf"));
+        const bool loggedOut
+            = provisioning.value("Prov_Info/LoginMode").isEmpty() && provisioning.value("Prov_Info/Id").isEmpty();
         if (loggedOut)
             Notices::show(this, tr("Logout status"), Notices::Icon::Error);
         else
