@@ -1,5 +1,6 @@
 #include "initext.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -253,7 +254,7 @@ void IniText::read(const QByteArray &text, const Visitor &visit)
 
 namespace {
 
-bool isPlainInKeys(QChar ch)
+bool isPlain(QChar ch)
 {
     return ch.unicode() < 0x80 && (ch.isLetterOrNumber() || ch == '_' || ch == '-' || ch == '.');
 }
@@ -263,7 +264,7 @@ QByteArray escapedKey(const QString &key)
 {
     QByteArray text;
     for (const QChar ch : key) {
-        if (isPlainInKeys(ch))
+        if (isPlain(ch))
             text += ch.toLatin1();
         else if (ch == '/')
             text += '\\';
@@ -278,18 +279,20 @@ QByteArray escapedKey(const QString &key)
 /// The twin of `Value`. All hexadecimal digits behind an "x" belong to it, so that one that follows is escaped too.
 QByteArray escapedValue(const QString &value)
 {
+    if (std::all_of(value.begin(), value.end(), isPlain))
+        return value.toLatin1();
     QByteArray text = value.startsWith('@') ? "\"@" : "\"";
     bool isBehindNumber = false;
     for (const QChar ch : value) {
         const bool isAscii = ch.unicode() >= 0x20 && ch.unicode() < 0x7f;
-        const bool isPlain = isAscii && !(isBehindNumber && digit(ch.toLatin1(), 16) >= 0);
-        if (!isPlain)
+        const bool isNumber = !isAscii || (isBehindNumber && digit(ch.toLatin1(), 16) >= 0);
+        if (isNumber)
             text += "\\x" + QByteArray::number(ch.unicode(), 16);
         else if (ch == '"' || ch == '\\')
             text += QByteArray("\\") + ch.toLatin1();
         else
             text += ch.toLatin1();
-        isBehindNumber = !isPlain;
+        isBehindNumber = isNumber;
     }
     return text + '"';
 }
