@@ -5,7 +5,6 @@
 #include "initext.h"
 #include "phonescript.h"
 #include "systemphonebook.h"
-#include "systemphonebookcategorydelegate.h"
 #include "systemphonebookcategorymodel.h"
 #include "systemphonebookdatamodel.h"
 #include "systemphonebooklistwidget.h"
@@ -14,9 +13,7 @@
 #include "testmain.h"
 #include "testphone.h"
 
-#include <QPainter>
 #include <QSettings>
-#include <QStyleOptionViewItem>
 #include <QTextCodec>
 #include <QUdpSocket>
 
@@ -69,7 +66,6 @@ private slots:
     void callsAlsoTheSecondOfAPage();
     void commandsCloseIt_data();
     void commandsCloseIt();
-    void delegatesPaintBothModels();
 
 private:
     void provision(const QByteArray &text) { m_phone->writeFile(fileName, text); }
@@ -313,25 +309,6 @@ void SystemPhonebookTest::commandsCloseIt()
                  [&] { return !contact.app.isVisible() && !QApplication::activeModalWidget(); });
     QCOMPARE(script.run(), QString());
     QVERIFY(!contact.app.findChild<SystemPhonebookListWidget *>());
-}
-
-void SystemPhonebookTest::delegatesPaintBothModels()
-{
-    provision(people(1));
-    const SystemPhonebookDataModel entries(SystemPhonebook::allKey(), nullptr);
-    const SystemPhonebookCategoryModel categories(nullptr);
-    const SystemPhonebookCategoryDelegate delegate;
-    for (const QAbstractItemModel *model :
-         std::initializer_list<const QAbstractItemModel *>{&entries, &categories}) {
-        QStyleOptionViewItem option;
-        option.rect = QRect(QPoint(), delegate.sizeHint(option, QModelIndex()));
-        QImage image(option.rect.size(), QImage::Format_RGB32), empty = image;
-        empty.fill(Qt::white);
-        QPainter painter(&image);
-        delegate.paint(&painter, option, model->index(0, 0));
-        painter.end();
-        QVERIFY(image != empty);
-    }
 }
 
 PHONE_TEST_MAIN(SystemPhonebookTest)
