@@ -8,6 +8,7 @@
 
 ListViewSysPhonebookItem::ListViewSysPhonebookItem(const QModelIndex &index) : m_index(index)
 {
+    setFocusType(ListViewFocusBar);
     const bool isEntry = index.data(SystemPhonebook::KindRole) == SystemPhonebook::dataKind();
     setText(index.data(isEntry ? int(SystemPhonebook::NameRole) : int(Qt::DisplayRole)).toString());
 }

@@ -18,7 +18,7 @@ const QLatin1String countKey("Info/Count");
 const QLatin1String charsetKey("Info/Charset");
 
 /// Of a larger file only the beginning is read, so that it cannot take the phone's memory.
-constexpr qint64 MostBytes = 16 * 1024 * 1024;
+constexpr qint64 MostBytes = qint64(16) * 1024 * 1024;
 
 QByteArray bytesOf(const QString &path)
 {

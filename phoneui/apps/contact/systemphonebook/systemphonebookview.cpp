@@ -11,6 +11,7 @@ SystemPhonebookView::SystemPhonebookView(QWidget *parent) : ListView(parent)
 {
     setObjectName("SystemPhonebookView");
     setPageCount(PageRows);
+    setFocusType(ListViewFocusBar); // the floating frame is too high for five rows
     installEventFilter(this);
 }
 
