@@ -11,6 +11,7 @@
 #include "phonebookfile.h"
 #include "pluginverification.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "status.h"
 #include "systemphonebooklistwidget.h"
 #include "tail.h"
@@ -70,6 +71,8 @@ void Contact::closeChildren()
 {
     closeScreen(m_detailsDial);
     closeScreen(m_groupList);
+    closeScreen(m_searchAll);
+    closeScreen(m_searchAllOther);
     closeScreen(m_numberEdit);
 }
 

@@ -5,6 +5,7 @@
 #include "basewidget.h"
 #include "buddyidstatustype.h"
 #include "contactdata.h"
+#include "mergedcontacts.h"
 
 #include <QPointer>
 
@@ -17,6 +18,7 @@ class MessageBox;
 class NumberEdit;
 class QDataStream;
 class QLabel;
+class SearchAll;
 class SystemPhonebookListWidget;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
@@ -112,6 +114,7 @@ private:
 
     MessageBox &messageBox();
     void openGroups();
+    void openSearch();
     void editSelected();
     void addContact();
     void deleteSelected();
@@ -123,8 +126,12 @@ private:
 
     void reload();
     void refreshIfVisible();
+    void searchForCaller(int mode, const QString &number);
     void handleNewContact(QDataStream &payload);
+    void handleViewContactSearchAll(QDataStream &payload);
     void handleViewContact(QDataStream &payload);
+    void handleFindReceiver(QDataStream &payload);
+    void handleSearchContact(QDataStream &payload);
     void handleChangedLanguage(QDataStream &payload);
     void handlePhoneInit(QDataStream &payload);
     void handleContactChanged(QDataStream &payload);
@@ -135,6 +142,7 @@ private:
     void handleBuddyStatus(QDataStream &payload);
     void handleLogOut(QDataStream &payload);
     void handleCloseContact(QDataStream &payload);
+    void handleCloseSearchAll(QDataStream &payload);
     void contactChanged();
     void refreshPresence();
 
@@ -147,8 +155,10 @@ private:
     QPointer<DetailsDial> m_detailsDial;
     QPointer<NumberEdit> m_numberEdit;
     QPointer<GroupList> m_groupList;
+    QPointer<SearchAll> m_searchAll;
+    QPointer<SearchAll> m_searchAllOther; ///< a second place for one, closed with the others
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
-    QList<ContactData> m_allContactList; ///< merged, by name
+    MergedContacts m_allContactList;
     ListView *m_selectListView = nullptr;
     QPointer<SystemPhonebookListWidget> m_systemPhonebookList;
     bool m_systemPhonebookEnabled = false;

@@ -10,6 +10,7 @@
 #include "grouplist.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "wpsmcontactmanager.h"
 
 #include <QDataStream>
@@ -27,7 +28,10 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
     // The text is matched as a whole; the blank within one of them is part of it.
     static const Command commands[] = {
         {"newContact(str)", &Contact::handleNewContact},
+        {"viewContactSearchAll(str)", &Contact::handleViewContactSearchAll},
         {"viewContact(str)", &Contact::handleViewContact},
+        {"showSearchAllToFindReceiver()", &Contact::handleFindReceiver},
+        {"searchContact()", &Contact::handleSearchContact},
         {"changedLanguage()", &Contact::handleChangedLanguage},
         {"noti_phoneInit()", &Contact::handlePhoneInit},
         {"api2ui_noti_contact_changed()", &Contact::handleContactChanged},
@@ -38,6 +42,7 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
         {"BuddyStatusChanged()", &Contact::handleBuddyStatus},
         {"LogOutResponse(int)", &Contact::handleLogOut},
         {"CloseContact()", &Contact::handleCloseContact},
+        {"closeSearchAll()", &Contact::handleCloseSearchAll},
     };
     for (const Command &known : commands) {
         if (command == QLatin1String(known.text)) {
@@ -72,6 +77,36 @@ void Contact::handleNewContact(QDataStream &payload)
             reload();
             close();
         });
+}
+
+/// Another application asked for the search: with it the contacts go, too.
+void Contact::searchForCaller(int mode, const QString &number)
+{
+    runScreen(
+        m_searchAll, this, [this, mode, number] { return new SearchAll(this, mode, number); },
+        [this](SearchAll *) {
+            reload();
+            update();
+            close();
+        });
+}
+
+void Contact::handleViewContactSearchAll(QDataStream &payload)
+{
+    QString number;
+    payload >> number;
+    searchForCaller(SearchAll::AddNumberMode, number);
+}
+
+void Contact::handleFindReceiver(QDataStream &)
+{
+    closeScreen(m_searchAll);
+    searchForCaller(SearchAll::ReceiverMode, QString());
+}
+
+void Contact::handleSearchContact(QDataStream &)
+{
+    searchForCaller(SearchAll::ProgramKeyMode, QString());
 }
 
 void Contact::handleViewContact(QDataStream &payload)
@@ -180,4 +215,9 @@ void Contact::handleCloseContact(QDataStream &)
     closeChildren();
     update();
     close();
+}
+
+void Contact::handleCloseSearchAll(QDataStream &)
+{
+    closeScreen(m_searchAll);
 }

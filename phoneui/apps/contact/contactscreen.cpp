@@ -11,6 +11,7 @@
 #include "listviewcontactitem.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "status.h"
 #include "systemphonebook.h"
 #include "systemphonebooklistwidget.h"
@@ -45,7 +46,8 @@ void Contact::setStatusTitle(int idx)
 {
     const auto shows = [](const QWidget *child) { return child && child->isVisible(); };
     const bool childHasTitle
-        = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList) || shows(m_systemPhonebookList);
+        = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList) || shows(m_searchAll)
+        || shows(m_systemPhonebookList);
     if (!isVisible() || !status || childHasTitle)
         return;
     const QString title = QString("%1 | %2 (%3/%4)").arg(tr("Contacts"), tr("All")).arg(idx + 1).arg(m_totalCount);
