@@ -11,6 +11,7 @@
 #include "numberedit.h"
 #include "pluginverification.h"
 #include "screenwatch.h"
+#include "searchdir.h"
 #include "status.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
@@ -71,6 +72,7 @@ void Contact::closeChildren()
     closeScreen(m_detailsDial);
     closeScreen(m_groupList);
     closeScreen(m_numberEdit);
+    closeScreen(m_searchDir);
 }
 
 void Contact::end()

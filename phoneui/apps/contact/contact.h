@@ -17,6 +17,7 @@ class MessageBox;
 class NumberEdit;
 class QDataStream;
 class QLabel;
+class SearchDir;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
 /// contacts, local ones and those of the paired mobile device in one list by name.
@@ -122,7 +123,9 @@ private:
     void reload();
     void refreshIfVisible();
     void handleNewContact(QDataStream &payload);
+    void handleViewContactSearchDir(QDataStream &payload);
     void handleViewContact(QDataStream &payload);
+    void handleDirectoryResponse(QDataStream &payload);
     void handleChangedLanguage(QDataStream &payload);
     void handlePhoneInit(QDataStream &payload);
     void handleContactChanged(QDataStream &payload);
@@ -145,6 +148,7 @@ private:
     QPointer<DetailsDial> m_detailsDial;
     QPointer<NumberEdit> m_numberEdit;
     QPointer<GroupList> m_groupList;
+    QPointer<SearchDir> m_searchDir;
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
     QList<ContactData> m_allContactList; ///< merged, by name
     ListView *m_selectListView = nullptr;

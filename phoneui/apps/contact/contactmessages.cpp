@@ -3,13 +3,16 @@
 #include "contact.h"
 #include "thumbnail.h"
 
+#include "answerfile.h"
 #include "contactmanager.h"
 #include "core.h"
 #include "detailsdial.h"
+#include "directorydocument.h"
 #include "gridselectview.h"
 #include "grouplist.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchdir.h"
 #include "wpsmcontactmanager.h"
 
 #include <QDataStream>
@@ -27,7 +30,9 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
     // The text is matched as a whole; the blank within one of them is part of it.
     static const Command commands[] = {
         {"newContact(str)", &Contact::handleNewContact},
+        {"viewContactSearchDir(str)", &Contact::handleViewContactSearchDir},
         {"viewContact(str)", &Contact::handleViewContact},
+        {"http2ui_directory_service_response(str,int)", &Contact::handleDirectoryResponse},
         {"changedLanguage()", &Contact::handleChangedLanguage},
         {"noti_phoneInit()", &Contact::handlePhoneInit},
         {"api2ui_noti_contact_changed()", &Contact::handleContactChanged},
@@ -74,6 +79,16 @@ void Contact::handleNewContact(QDataStream &payload)
         });
 }
 
+void Contact::handleViewContactSearchDir(QDataStream &payload)
+{
+    QString word;
+    payload >> word;
+    closeScreen(m_searchDir);
+    m_listView->hide();
+    runScreen(
+        m_searchDir, this, [this, word] { return new SearchDir(this, word); }, [this](SearchDir *) { close(); });
+}
+
 void Contact::handleViewContact(QDataStream &payload)
 {
     QString number;
@@ -88,6 +103,21 @@ void Contact::handleViewContact(QDataStream &payload)
             return details;
         },
         [this](DetailsDial *) { end(); });
+}
+
+void Contact::handleDirectoryResponse(QDataStream &payload)
+{
+    QString path;
+    qint32 number = 0;
+    payload >> path >> number;
+    qDebug() << "Contact::handleDirectoryResponse" << path << number;
+    const AnswerFile answer(theCore->home(), path);
+    if (!answer.isOpen())
+        return;
+    int totalCount = 0;
+    const QList<QList<DirectoryData>> results = loadData(answer.path().constData(), &totalCount);
+    if (m_searchDir)
+        m_searchDir->showSearchDirResult(results, totalCount);
 }
 
 void Contact::handleChangedLanguage(QDataStream &)

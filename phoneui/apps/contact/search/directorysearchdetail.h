@@ -29,7 +29,8 @@ public:
     void setupListView();
     void setupListViewItems(QList<DirectoryData> fields);
 
-    /// Saves the number, as it shows, as a new contact or into one that there is: asks, and opens the screen for it.
+    /// Saves the number, as it shows, as a new contact or into one that there is: asks, and opens the screen for
+    /// it.
     void saveContact();
     /// Dials and closes the contacts.
     void callByNumber();
