@@ -14,6 +14,7 @@ struct Peer
 };
 constexpr Peer table[] = {
     {"cm", "CM"},
+    {"xcid", "XCID"},
 };
 
 void writePort(const QString &section, quint16 port)

@@ -198,7 +198,7 @@ void CmTest::whatIsNoRequest_data()
     QTest::newRow("longer than the wire allows")
         << directory("NEW_CALL", QByteArray(5000, '1')) << QByteArray("it is no message");
     QTest::newRow("for another") << QByteArray(good).replace("CM/UI", "XCID/UI")
-                                 << QByteArray("it is not for the call manager");
+                                 << QByteArray("it is for another process");
     QTest::newRow("another signature") << message_MakeFromValues(
         {"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}})
                                        << QByteArray("there is no such request");
