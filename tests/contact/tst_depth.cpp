@@ -1,0 +1,169 @@
+// Every command at every depth of screens, boxes and popups: all loops unwind, and the application works on.
+
+#include "contactmanager.h"
+#include "contactscreen.h"
+#include "neighbours.h"
+#include "phonescript.h"
+#include "testcase.h"
+#include "testmain.h"
+#include "testphone.h"
+
+#include <memory>
+
+using namespace PhoneKeys;
+
+/// Keys, each with the screen that is active after it.
+using Road = QList<QPair<int, QString>>;
+Q_DECLARE_METATYPE(Road)
+
+class DepthTest : public TestCase
+{
+    Q_OBJECT
+
+    void setUp() override;
+    void tearDown() override
+    {
+        m_screen.reset();
+        m_phone.reset();
+    }
+
+private slots:
+    void commandsInTheMiddle_data();
+    void commandsInTheMiddle();
+    void payloads_data();
+    void payloads();
+
+private:
+    /// What a screen puts off by a millisecond is done after it.
+    static std::function<bool()> pause()
+    {
+        auto turns = std::make_shared<int>(0);
+        return [turns] { return ++*turns > 5; };
+    }
+    static QList<QPair<const char *, Road>> roads();
+    void send(const QString &command);
+
+    std::unique_ptr<TestPhone> m_phone;
+    std::unique_ptr<ContactScreen> m_screen;
+};
+
+void DepthTest::setUp()
+{
+    m_phone.reset(new TestPhone);
+    ContactManager *store = m_phone->core.contactManager();
+    const int team = store->saveGroup(GroupData(-1, "Team", ""), false);
+    store->saveGroupMember(m_phone->addContact("Kim"), {team});
+    m_screen.reset(new ContactScreen);
+    QVERIFY(m_screen->open());
+}
+
+QList<QPair<const char *, Road>> DepthTest::roads()
+{
+    const auto on = [](const Road &road, int key, const char *screen) { return road + Road{{key, screen}}; };
+    const Road details{{Qt::Key_Return, "DetailsDial"}}, list{{Qt::Key_Context1, "GroupList"}};
+    const Road form = on(details, Qt::Key_Context4, "NumberEdit");
+    const Road assignment = on(on(form, Qt::Key_Down, "NumberEdit"), Qt::Key_Return, "GroupList_At_Contact");
+    const Road groupForm = on(list, Qt::Key_Context2, "GroupAdd");
+    const Road team = on(list, Qt::Key_Down, "GroupList");
+    const Road group = on(team, Qt::Key_Return, "GroupDetail");
+    const Road member = on(group, Qt::Key_Return, "DetailsDial");
+    return {
+        {"details", details},
+        {"box", on(details, Qt::Key_Context3, "MessageBox")},
+        {"form", form},
+        {"popup", on(form, Qt::Key_Context1, "SelectPopup")},
+        {"assignment", assignment},
+        {"input", on(assignment, Qt::Key_Context1, "InputPopup")},
+        {"groups", list},
+        {"group form", groupForm},
+        {"bells", on(on(groupForm, Qt::Key_Down, "GroupAdd"), Qt::Key_Return, "SoundSelectPopup")},
+        {"group box", on(team, Qt::Key_Context3, "MessageBox")},
+        {"group", group},
+        {"member", member},
+        {"member's box", on(member, Qt::Key_Context3, "MessageBox")},
+        {"new member", on(group, Qt::Key_Context2, "NumberEdit")},
+    };
+}
+
+/// The second start of the application is no command, but it can come at the same moments.
+void DepthTest::send(const QString &command)
+{
+    if (command == "start")
+        m_screen->app.start(nullptr, nullptr);
+    else
+        m_phone->core.postAppMsg("contact", command, QByteArray(""));
+}
+
+void DepthTest::commandsInTheMiddle_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<Road>("road");
+    QTest::addColumn<QString>("left");
+    // What is in front after each: nothing at all, a screen, or what was there before.
+    const struct
+    {
+        const char *command;
+        const char *left;
+    } commands[] = {{"CloseContact()", ""},
+                    {"start", ""},
+                    {"wpsm2ui_noti_device_disconnected(int)", "Contact"},
+                    {"newContact(str)", "NumberEdit"},
+                    {"viewContact(str)", "DetailsDial"},
+                    {"closeSearchAll()", nullptr},
+                    {"api2ui_noti_contact_changed()", nullptr},
+                    {"BuddyStatusChanged()", nullptr},
+                    {"changedLanguage()", nullptr},
+                    {"noti_phoneInit()", nullptr}};
+    const auto all = roads();
+    for (const auto &road : all) {
+        for (const auto &command : commands) {
+            QTest::addRow("%s in %s", command.command, road.first)
+                << command.command << road.second << (command.left ? command.left : road.second.last().second);
+        }
+    }
+}
+
+void DepthTest::commandsInTheMiddle()
+{
+    QFETCH(QString, command);
+    QFETCH(Road, road);
+    QFETCH(QString, left);
+    const auto nothing = [] { return !QApplication::activeWindow(); };
+    PhoneScript script;
+    for (const auto &step : qAsConst(road))
+        script.keys({step.first}).untilActive(step.second.toLatin1()).until("a moment to pass", pause());
+    script.call([&] { send(command); });
+    if (left.isEmpty())
+        script.until("everything to close", nothing);
+    else
+        script.untilActive(left.toLatin1());
+    // From wherever it is, one command leads out again, and nothing is left on the stack.
+    script.call([this] { send("CloseContact()"); }).until("everything to close", nothing);
+    QCOMPARE(script.run(), QString());
+    QVERIFY(!m_screen->app.isVisible());
+    QCOMPARE(m_phone->core.contactManager()->getCountOfContact(), 1);
+    // And the way in again is free.
+    QVERIFY(m_screen->open());
+    click(Qt::Key_Down);
+    QCOMPARE(m_screen->selectedName(), QString("Kim"));
+}
+
+void DepthTest::payloads_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("none") << QStringList() << QByteArray();
+    QTest::newRow("a number") << QStringList{"01"} << QByteArray::fromHex("00000004 0030 0031");
+    QTest::newRow("a number and a name")
+        << QStringList{"1", QString::fromUtf8("김")} << QByteArray::fromHex("00000002 0031 00000002 ae40");
+    QTest::newRow("nothing known") << QStringList{QString(), ""} << QByteArray::fromHex("ffffffff 00000000");
+}
+
+void DepthTest::payloads()
+{
+    QFETCH(QStringList, texts);
+    QTEST(Neighbours::payload(texts), "bytes");
+}
+
+PHONE_TEST_MAIN(DepthTest)
+#include "tst_depth.moc"
