@@ -64,10 +64,10 @@ void TestContactStore::contactRoundTrip()
     nameless.id = m_store->saveContact(nameless, false);
 
     m_store.reset(new ContactManager(path()));
-    QCOMPARE(m_store->getAllContacts(), QList<ContactData>({full, nameless}));
+    QCOMPARE(m_store->getAllContacts(), QList<ContactData>({nameless, full}));
     QCOMPARE(m_store->getSpecificContactDetail(full.id), full);
     QCOMPARE(m_store->getSpecificContactDetail(nameless.id), nameless);
-    QVERIFY(m_store->getAllContacts().last().name.isNull());
+    QVERIFY(m_store->getAllContacts().first().name.isNull());
     QCOMPARE(m_store->getSpecificContactDetail(99).id, 0);
     QCOMPARE(m_store->getCountOfContact(), 2);
     QCOMPARE(m_store->getContactName(full.id), full.name);

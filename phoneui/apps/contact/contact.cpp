@@ -11,6 +11,7 @@
 #include "numberedit.h"
 #include "pluginverification.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "searchdir.h"
 #include "status.h"
 #include "tail.h"
@@ -71,6 +72,8 @@ void Contact::closeChildren()
 {
     closeScreen(m_detailsDial);
     closeScreen(m_groupList);
+    closeScreen(m_searchAll);
+    closeScreen(m_searchAllOther);
     closeScreen(m_numberEdit);
     closeScreen(m_searchDir);
 }

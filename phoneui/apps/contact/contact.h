@@ -5,6 +5,7 @@
 #include "basewidget.h"
 #include "buddyidstatustype.h"
 #include "contactdata.h"
+#include "mergedcontacts.h"
 
 #include <QPointer>
 
@@ -17,6 +18,7 @@ class MessageBox;
 class NumberEdit;
 class QDataStream;
 class QLabel;
+class SearchAll;
 class SearchDir;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
@@ -111,6 +113,7 @@ private:
 
     MessageBox &messageBox();
     void openGroups();
+    void openSearch();
     void editSelected();
     void addContact();
     void deleteSelected();
@@ -122,9 +125,13 @@ private:
 
     void reload();
     void refreshIfVisible();
+    void searchForCaller(int mode, const QString &number);
     void handleNewContact(QDataStream &payload);
+    void handleViewContactSearchAll(QDataStream &payload);
     void handleViewContactSearchDir(QDataStream &payload);
     void handleViewContact(QDataStream &payload);
+    void handleFindReceiver(QDataStream &payload);
+    void handleSearchContact(QDataStream &payload);
     void handleDirectoryResponse(QDataStream &payload);
     void handleChangedLanguage(QDataStream &payload);
     void handlePhoneInit(QDataStream &payload);
@@ -136,6 +143,8 @@ private:
     void handleBuddyStatus(QDataStream &payload);
     void handleLogOut(QDataStream &payload);
     void handleCloseContact(QDataStream &payload);
+    void handleCloseSearchAll(QDataStream &payload);
+    void handleCloseSearchAll(QDataStream &payload);
     void contactChanged();
     void refreshPresence();
 
@@ -148,9 +157,11 @@ private:
     QPointer<DetailsDial> m_detailsDial;
     QPointer<NumberEdit> m_numberEdit;
     QPointer<GroupList> m_groupList;
+    QPointer<SearchAll> m_searchAll;
+    QPointer<SearchAll> m_searchAllOther; ///< a second place for one, closed with the others
     QPointer<SearchDir> m_searchDir;
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
-    QList<ContactData> m_allContactList; ///< merged, by name
+    MergedContacts m_allContactList;
     ListView *m_selectListView = nullptr;
     bool m_systemPhonebookEnabled = false;
 };

@@ -12,6 +12,7 @@
 #include "grouplist.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "searchdir.h"
 #include "wpsmcontactmanager.h"
 
@@ -30,8 +31,11 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
     // The text is matched as a whole; the blank within one of them is part of it.
     static const Command commands[] = {
         {"newContact(str)", &Contact::handleNewContact},
+        {"viewContactSearchAll(str)", &Contact::handleViewContactSearchAll},
         {"viewContactSearchDir(str)", &Contact::handleViewContactSearchDir},
         {"viewContact(str)", &Contact::handleViewContact},
+        {"showSearchAllToFindReceiver()", &Contact::handleFindReceiver},
+        {"searchContact()", &Contact::handleSearchContact},
         {"http2ui_directory_service_response(str,int)", &Contact::handleDirectoryResponse},
         {"changedLanguage()", &Contact::handleChangedLanguage},
         {"noti_phoneInit()", &Contact::handlePhoneInit},
@@ -43,6 +47,8 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
         {"BuddyStatusChanged()", &Contact::handleBuddyStatus},
         {"LogOutResponse(int)", &Contact::handleLogOut},
         {"CloseContact()", &Contact::handleCloseContact},
+        {"closeSearchAll()", &Contact::handleCloseSearchAll},
+        {"closeSearchAll()", &Contact::handleCloseSearchAll},
     };
     for (const Command &known : commands) {
         if (command == QLatin1String(known.text)) {
@@ -77,6 +83,36 @@ void Contact::handleNewContact(QDataStream &payload)
             reload();
             close();
         });
+}
+
+/// Another application asked for the search: with it the contacts go, too.
+void Contact::searchForCaller(int mode, const QString &number)
+{
+    runScreen(
+        m_searchAll, this, [this, mode, number] { return new SearchAll(this, mode, number); },
+        [this](SearchAll *) {
+            reload();
+            update();
+            close();
+        });
+}
+
+void Contact::handleViewContactSearchAll(QDataStream &payload)
+{
+    QString number;
+    payload >> number;
+    searchForCaller(SearchAll::AddNumberMode, number);
+}
+
+void Contact::handleFindReceiver(QDataStream &)
+{
+    closeScreen(m_searchAll);
+    searchForCaller(SearchAll::ReceiverMode, QString());
+}
+
+void Contact::handleSearchContact(QDataStream &)
+{
+    searchForCaller(SearchAll::ProgramKeyMode, QString());
 }
 
 void Contact::handleViewContactSearchDir(QDataStream &payload)
@@ -116,7 +152,9 @@ void Contact::handleDirectoryResponse(QDataStream &payload)
         return;
     int totalCount = 0;
     const QList<QList<DirectoryData>> results = loadData(answer.path().constData(), &totalCount);
-    if (m_searchDir)
+    if (m_searchAll)
+        m_searchAll->showSearchDirResult(results, totalCount);
+    else if (m_searchDir)
         m_searchDir->showSearchDirResult(results, totalCount);
 }
 
@@ -203,6 +241,12 @@ void Contact::refreshPresence()
     setupListViewItems(true, -1, cell, false);
 }
 
+void Contact::handleCloseSearchAll(QDataStream &)
+{
+    closeScreen(m_searchAll);
+    closeScreen(m_searchDir);
+}
+
 void Contact::handleCloseContact(QDataStream &)
 {
     if (isHidden())
@@ -210,4 +254,9 @@ void Contact::handleCloseContact(QDataStream &)
     closeChildren();
     update();
     close();
+}
+
+void Contact::handleCloseSearchAll(QDataStream &)
+{
+    closeScreen(m_searchAll);
 }

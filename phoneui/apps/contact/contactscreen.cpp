@@ -10,6 +10,7 @@
 #include "grouplist.h"
 #include "listviewcontactitem.h"
 #include "numberedit.h"
+#include "searchall.h"
 #include "searchdir.h"
 #include "status.h"
 #include "tail.h"
@@ -42,8 +43,8 @@ void Contact::setupStatus()
 void Contact::setStatusTitle(int idx)
 {
     const auto shows = [](const QWidget *child) { return child && child->isVisible(); };
-    const bool childHasTitle
-        = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList) || shows(m_searchDir);
+    const bool childHasTitle = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList)
+        || shows(m_searchDir) || shows(m_searchAll);
     if (!isVisible() || !status || childHasTitle)
         return;
     const QString title = QString("%1 | %2 (%3/%4)").arg(tr("Contacts"), tr("All")).arg(idx + 1).arg(m_totalCount);

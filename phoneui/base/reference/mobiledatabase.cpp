@@ -43,36 +43,13 @@ void MobileDatabase::take(const QString &deviceName, const QString &generation, 
 {
     m_deviceName = deviceName;
     m_generation = generation;
-    m_contacts = contacts;
+    m_search.load(contacts, 0);
     m_positions.clear();
-    for (int i = 0; i < m_contacts.size(); ++i)
-        m_positions.insert(m_contacts.at(i).id, i);
-    m_lines.clear();
+    for (int i = 0; i < m_search.contacts().size(); ++i)
+        m_positions.insert(m_search.contacts().at(i).id, i);
 }
 
 ContactData MobileDatabase::contact(int id) const
 {
-    return m_contacts.value(m_positions.value(id, -1));
-}
-
-QList<ContactData> MobileDatabase::search(const QString &word)
-{
-    if (word.isEmpty())
-        return m_contacts;
-    if (m_lines.needsReload(0)) {
-        for (const ContactData &contact : qAsConst(m_contacts)) {
-            QStringList numbers;
-            for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
-                if (!contact.number(slot).isEmpty())
-                    numbers.append(contact.number(slot));
-            }
-            m_lines.append(contact.id, contact.name, numbers);
-        }
-        m_lines.setLoaded(0);
-    }
-    QList<ContactData> found;
-    const QVector<int> ids = m_lines.matches(word);
-    for (const int id : ids)
-        found.append(contact(id));
-    return found;
+    return m_search.contacts().value(m_positions.value(id, -1));
 }

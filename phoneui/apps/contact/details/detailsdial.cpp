@@ -22,8 +22,6 @@
 #include <QSettings>
 #include <QTimer>
 
-#include <array>
-
 namespace {
 
 const QRect listGeometry(QPoint(5, 2), QPoint(378, 105));
@@ -31,11 +29,6 @@ constexpr QRect TypeIconGeometry(0, 4, 24, 24);
 constexpr int FlowDelay = 1000; // ms
 
 enum SoftKey { CallKey = 0, MessageKey = 1, DeleteKey = 2, EditKey = 3 };
-
-/// The pictures of numbers by their kind.
-constexpr std::array<const char *, 5> kindPictures
-    = {"menu_icon_office", "menu_icon_mobile", "menu_icon_home", "menu_icon_fax", "menu_icon_etc_2"};
-const char plainPicture[] = "menu_icon_etc_2";
 
 }
 
@@ -95,8 +88,7 @@ ContactData DetailsDial::readContact(int id) const
 ListViewContactItem *DetailsDial::addRow(const QString &label, const QString &text, const QString &picture)
 {
     auto *row = new ListViewContactItem(text, label);
-    const QString stem = ":/contact/images/" + picture;
-    row->setPixmap(QPixmap(stem + ".png"), QPixmap(stem + "_press.png"));
+    row->setPixmap(QPixmap(picture + ".png"), QPixmap(picture + "_press.png"));
     m_listView->addItem(row);
     return row;
 }
@@ -108,6 +100,7 @@ void DetailsDial::setupListViewItems(int id)
     m_listView->itemClear();
     const ContactData contact = readContact(id);
     m_contactName = contact.name;
+    const QString plainPicture = numberPicture(ContactData::Etc);
 
     addRow(tr("Name"), contact.name, plainPicture);
     if (m_contactType == ContactData::LocalContact)
@@ -118,7 +111,7 @@ void DetailsDial::setupListViewItems(int id)
         if (contact.number(slot).isEmpty())
             continue;
         const auto kind = contact.numberType(slot);
-        addRow(getNumberTypeStr(kind), contact.number(slot), kindPictures[kind])
+        addRow(getNumberTypeStr(kind), contact.number(slot), numberPicture(kind))
             ->setItemType(ListViewContactItem::ItemTypeMarked);
         ++m_numberCount;
     }

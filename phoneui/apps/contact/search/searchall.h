@@ -4,6 +4,7 @@
 #include "basewidget.h"
 #include "contactdata.h"
 #include "directorydata.h"
+#include "mergedcontacts.h"
 
 #include <QList>
 #include <QPixmap>
@@ -13,6 +14,7 @@
 
 class DetailsDial;
 class ListView;
+class ListViewSearchItem;
 class NumberEdit;
 class QLabel;
 class SearchLineEdit;
@@ -69,6 +71,14 @@ protected:
 private:
     static constexpr int KindCount = 5;
 
+    ListViewSearchItem *row(int idx) const;
+    void showResult();
+    void focusSearchLine();
+    void pick(int idx);
+    void showContact(int id, int contactType);
+    void searchAgain();
+    void addNumberTo(int id);
+
     int m_mode;
     QString m_number;
     ListView *m_listView = nullptr;
@@ -76,6 +86,7 @@ private:
     SearchLineEdit *m_searchLine = nullptr;
     QPointer<DetailsDial> m_detailsDial;
     QPointer<NumberEdit> m_numberEdit;
+    MergedContacts m_contacts; ///< found for the word
     std::array<QPixmap, KindCount> m_kindIcons;
 };
 
