@@ -11,6 +11,8 @@
 ///
 /// A fault stops the reading: the root then holds everything before the fault, and its err says what was wrong.
 
+class EzxmlDocument;
+
 extern "C" {
 
 struct ezxml
@@ -25,7 +27,7 @@ struct ezxml
     ezxml *child;
     ezxml *parent; ///< null at the root
     short flags; ///< EZXML_TXTM for a txt outside of the document's buffer
-    short hasDefaults; ///< the document type declares attributes for this name
+    short declared; ///< 1 when the document type declares attributes for this name
 };
 
 enum {
@@ -48,7 +50,7 @@ struct ezxml_root
     char ***pi; ///< per target: that target, then the instructions, up to a null pointer
     short standalone;
     char err[128]; ///< empty when there was no fault
-    struct ezxml_memory *memory; ///< the blocks that hold the element records
+    EzxmlDocument *document; ///< what is not in the buffer
 };
 
 /// What stands for every list without entries.
