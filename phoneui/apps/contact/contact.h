@@ -144,7 +144,6 @@ private:
     void handleLogOut(QDataStream &payload);
     void handleCloseContact(QDataStream &payload);
     void handleCloseSearchAll(QDataStream &payload);
-    void handleCloseSearchAll(QDataStream &payload);
     void contactChanged();
     void refreshPresence();
 

@@ -48,7 +48,6 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
         {"LogOutResponse(int)", &Contact::handleLogOut},
         {"CloseContact()", &Contact::handleCloseContact},
         {"closeSearchAll()", &Contact::handleCloseSearchAll},
-        {"closeSearchAll()", &Contact::handleCloseSearchAll},
     };
     for (const Command &known : commands) {
         if (command == QLatin1String(known.text)) {
@@ -254,9 +253,4 @@ void Contact::handleCloseContact(QDataStream &)
     closeChildren();
     update();
     close();
-}
-
-void Contact::handleCloseSearchAll(QDataStream &)
-{
-    closeScreen(m_searchAll);
 }
