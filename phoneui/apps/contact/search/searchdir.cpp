@@ -24,6 +24,8 @@
 namespace {
 
 constexpr QRect LineGeometry(5, 2, 374, 34), ListGeometry(5, 35, 378, 103);
+// The list reaches behind the soft keys, which lie over it; its rows share the height above them.
+constexpr int AboveSoftKeys = 71, BehindSoftKeys = ListGeometry.height() - AboveSoftKeys;
 constexpr int RowsPerPage = 2;
 constexpr int LongestWord = 64; // characters
 constexpr int ShortestName = 2, ShortestNumber = 3; // characters, blanks around the word included
@@ -81,6 +83,8 @@ void SearchDir::setupListView()
     m_listView = new ListView(this);
     m_listView->setObjectName("SearchDir::m_listView");
     m_listView->setGeometry(ListGeometry);
+    m_listView->setListBottomMargin(-BehindSoftKeys);
+    tail->raise();
     m_listView->setPageCount(RowsPerPage);
     m_listView->setLineColor(Qt::black);
     m_listView->setStartFuncKey(MethodFuncKey);
