@@ -11,32 +11,47 @@ bool precedes(const ContactData *a, const ContactData *b)
     return a->name < b->name;
 }
 
-/// The store's contacts by name, in its own order within one name. The stores sort already, as a rule.
-Order byName(const QList<ContactData> &contacts)
+void append(Order &order, const QList<ContactData> &contacts)
 {
-    Order order;
-    order.reserve(contacts.size());
     for (const ContactData &contact : contacts)
         order.append(&contact);
-    if (!std::is_sorted(order.begin(), order.end(), precedes))
-        std::stable_sort(order.begin(), order.end(), precedes);
-    return order;
+}
+
+/// Turns around the contacts of each name; false, with the work half done, where the names are not in order.
+bool reverseWithinNames(Order &order)
+{
+    auto first = order.begin();
+    for (auto next = first; next != order.end(); ++next) {
+        const int difference = QString::compare((*first)->name, (*next)->name);
+        if (difference > 0)
+            return false;
+        if (difference < 0) {
+            std::reverse(first, next);
+            first = next;
+        }
+    }
+    std::reverse(first, order.end());
+    return true;
 }
 
 }
 
 MergedContacts::MergedContacts(const QList<ContactData> &local, const QList<ContactData> &mobile)
-    : m_local(local), m_mobile(mobile), m_order(byName(m_local))
+    : m_local(local), m_mobile(mobile)
 {
-    if (!m_mobile.isEmpty()) {
-        const Order locals = m_order, mobiles = byName(m_mobile);
-        m_order.resize(locals.size() + mobiles.size());
-        std::merge(locals.begin(), locals.end(), mobiles.begin(), mobiles.end(), m_order.begin(), precedes);
-    }
-    for (auto first = m_order.begin(); first != m_order.end();) {
-        const auto next = std::find_if(first, m_order.end(),
-                                       [&](const ContactData *contact) { return contact->name != (*first)->name; });
-        std::reverse(first, next);
-        first = next;
+    const auto concatenate = [this] {
+        m_order.clear();
+        m_order.reserve(m_local.size() + m_mobile.size());
+        append(m_order, m_local);
+        append(m_order, m_mobile);
+    };
+    concatenate();
+    // As a rule both stores have sorted already.
+    if (!m_local.isEmpty() && !m_mobile.isEmpty())
+        std::inplace_merge(m_order.begin(), m_order.begin() + m_local.size(), m_order.end(), precedes);
+    if (!reverseWithinNames(m_order)) {
+        concatenate();
+        std::stable_sort(m_order.begin(), m_order.end(), precedes);
+        reverseWithinNames(m_order);
     }
 }

@@ -119,13 +119,20 @@ private:
     std::array<std::unique_ptr<Page>, 256> m_pages;
 };
 
+QChar foldedAscii(ushort code)
+{
+    if (code >= 'A' && code <= 'Z')
+        return QChar(code + 'a' - 'A');
+    return code < ' ' || code == 0x7f ? QChar(' ') : QChar(code);
+}
+
 void appendFolded(Buffer &out, const QString &text)
 {
     static thread_local FoldedCharacters characters;
     for (int i = 0; i < text.size(); ++i) {
         const ushort code = text.at(i).unicode();
-        if (code >= 'a' && code <= 'z')
-            out.append(QChar(code));
+        if (code < 0x80)
+            out.append(foldedAscii(code));
         else if (QChar::isHighSurrogate(code) && i + 1 < text.size())
             append(out, foldedCharacter(text.mid(i++, 2)));
         else

@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace {
 
@@ -164,6 +165,9 @@ void SearchAll::setupListViewItems()
 
 void SearchAll::searchBegin()
 {
+    // To give back what was found before takes as long as to find it: that can wait until the rows are painted.
+    QTimer::singleShot(0, this, [former = m_contacts] {});
+
     const QString word = getSearchWord();
     m_listView->itemClear();
     loadContactData(theCore->contactManager()->getContactSearchResults(word),
