@@ -27,7 +27,8 @@ constexpr QRect LineGeometry(5, 2, 374, 33);
 constexpr int LineLength = 32; // characters
 // The list reaches behind the soft keys: its rows share the height above them, and below it shows nothing.
 constexpr QRect ListGeometry(5, 35, 378, 105);
-constexpr int AboveSoftKeys = 71, BehindSoftKeys = ListGeometry.height() - AboveSoftKeys;
+constexpr int BehindSoftKeys = 34;
+constexpr QRect VisibleGeometry = ListGeometry.adjusted(0, 0, 0, -BehindSoftKeys);
 constexpr int RowsPerPage = 2;
 constexpr int KeysPerColumn = 4; // the keys beside the display that pick rows
 
@@ -94,6 +95,7 @@ void SearchAll::setupNoSearchResult()
     static constexpr int TextHeight = 20; // pixels
 
     m_noResultLabel = new QLabel(tr("No Result"), this);
+    m_noResultLabel->setObjectName("SearchAll::m_noResultLabel");
     QFont font("1V_02_GO_UI");
     font.setPixelSize(TextHeight);
     m_noResultLabel->setFont(font);
@@ -110,7 +112,7 @@ void SearchAll::setupListView()
     m_listView->setGeometry(ListGeometry);
     m_listView->setListBottomMargin(-BehindSoftKeys);
     m_listView->setScrollBottomMargin(BehindSoftKeys);
-    m_listView->setMask(QRect(0, 0, ListGeometry.width(), AboveSoftKeys));
+    m_listView->setMask(QRect(QPoint(), VisibleGeometry.size()));
     m_listView->setPageCount(RowsPerPage);
     m_listView->setEnableFuncKey(true);
     m_listView->setStartFuncKey(Qt::Key_F2);
@@ -175,7 +177,7 @@ void SearchAll::searchBegin()
     m_listView->setStartIdx(0);
     addListViewItems();
     showResult();
-    update();
+    update(VisibleGeometry);
 }
 
 /// The list, or the word that it would be empty.
