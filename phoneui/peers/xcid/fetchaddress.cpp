@@ -14,7 +14,8 @@ static QByteArray schemeOf(const QByteArray &text)
 static int endOfCredentials(const QByteArray &text)
 {
     const int idLength = text.indexOf(':');
-    QByteArray rest = text.left(text.indexOf("?pid="));
+    const int query = text.indexOf("?pid=");
+    QByteArray rest = query < 0 ? text : text.left(query);
     if (idLength > 0)
         rest.replace(text.left(idLength), QByteArray(idLength, '-'));
     return rest.lastIndexOf('@');
