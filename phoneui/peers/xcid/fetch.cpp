@@ -28,7 +28,7 @@ static int port(const QUrl &url)
 }
 
 Fetch::Fetch(const FetchAddress &address, const FetchSettings &settings, QObject *parent)
-    : QObject(parent), m_address(address), m_sizeLimit(settings.sizeLimit), m_tls(settings.tls())
+    : QObject(parent), m_address(address), m_settings(settings)
 {
     m_manager.setProxy(QNetworkProxy::NoProxy);
 }
@@ -52,7 +52,8 @@ void Fetch::get(const QUrl &url)
 QNetworkRequest Fetch::request(const QUrl &url) const
 {
     QNetworkRequest request(url);
-    request.setSslConfiguration(m_tls);
+    if (isSecure(url))
+        request.setSslConfiguration(m_settings.tls());
     // Qt would take the credentials along wherever it is sent.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("phoneui"));
@@ -75,16 +76,16 @@ bool Fetch::mayHaveCredentials(const QUrl &url) const
 
 void Fetch::checkHead()
 {
-    if (announced(*m_reply) > m_sizeLimit)
+    if (announced(*m_reply) > m_settings.sizeLimit)
         fail(QStringLiteral("it announces %1 bytes").arg(announced(*m_reply)));
 }
 
 void Fetch::read()
 {
     // One byte beyond the limit is enough to know.
-    m_body += m_reply->read(qint64(m_sizeLimit) + 1 - m_body.size());
-    if (m_body.size() > m_sizeLimit)
-        fail(QStringLiteral("it is longer than %1 bytes").arg(m_sizeLimit));
+    m_body += m_reply->read(qint64(m_settings.sizeLimit) + 1 - m_body.size());
+    if (m_body.size() > m_settings.sizeLimit)
+        fail(QStringLiteral("it is longer than %1 bytes").arg(m_settings.sizeLimit));
 }
 
 void Fetch::handleFinished()

@@ -42,8 +42,7 @@ private:
     void leaveReply();
 
     const FetchAddress m_address;
-    const int m_sizeLimit;
-    const QSslConfiguration m_tls;
+    const FetchSettings m_settings;
     QNetworkAccessManager m_manager;
     QPointer<QNetworkReply> m_reply;
     QByteArray m_body;

@@ -14,7 +14,7 @@ static QByteArray schemeOf(const QByteArray &text)
 static int endOfCredentials(const QByteArray &text)
 {
     const int idLength = text.indexOf(':');
-    const int query = text.indexOf("?pid="); // a prepared page has none
+    const int query = text.indexOf("?pid=");
     QByteArray rest = query < 0 ? text : text.left(query);
     if (idLength > 0)
         rest.replace(text.left(idLength), QByteArray(idLength, '-'));
