@@ -17,12 +17,9 @@ class DirectoryTest : public NeighbourTest<Contact>
     Q_OBJECT
 
 private slots:
-    void requests_data();
     void requests();
-    void pagesOfATotal_data();
     void pagesOfATotal();
     void rowsOfAnAnswer();
-    void numberOfTheFocusedRow_data();
     void numberOfTheFocusedRow();
 
 private:
@@ -41,82 +38,64 @@ private:
     static constexpr auto Close = "contact CloseContact()";
 };
 
-void DirectoryTest::requests_data()
-{
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("method");
-    QTest::addColumn<QString>("end");
-    QTest::newRow("short name") << "k" << 0 << "The keyword is too short";
-    QTest::newRow("name") << "ki" << 0 << "&keytype=name&key=ki&enc=UTF-8";
-    QTest::newRow("short number") << "12" << 1 << "Input at least 3 digits";
-    QTest::newRow("number") << "123" << 1 << "&keytype=number&key=123&enc=UTF-8";
-    QTest::newRow("blanks") << "   " << 1 << "&keytype=number&key=&enc=UTF-8";
-    QTest::newRow("unknown type") << "1" << -1 << "&keytype=number&key=1&enc=UTF-8";
-}
-
 void DirectoryTest::requests()
 {
-    QFETCH(QString, word);
-    QFETCH(int, method);
-    QFETCH(QString, end);
+    const struct
+    {
+        const char *word;
+        int method;
+        const char *says; ///< a notice, or how the request ends
+    } cases[] = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
+                 {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
+                 {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
     m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=server\n");
     m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=secret\n");
-    DirectorySettings::setPage(7);
-    SearchDir form(nullptr, word);
-    QVERIFY(showAndActivate(&form));
-    QString notice;
-    QTimer::singleShot(50, &form, [&] {
-        if (auto *toast = form.findChild<Toast *>()) {
-            notice = toast->message();
-            TestScreen::shot("directory-short");
-            toast->timeout();
-        }
-    });
-    form.searchBegin(word, method);
-    const QString request = sent().value(0);
-    QVERIFY2(request.isEmpty() ? notice == end : request.endsWith(end), qPrintable(request + notice));
-    QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
-    QCOMPARE(int(m_phone->core.getIMEStatus()), int(end.startsWith("Input") ? IMENumeric : IMESmall));
-}
-
-void DirectoryTest::pagesOfATotal_data()
-{
-    QTest::addColumn<int>("total");
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<QString>("pageKeys");
-    QTest::newRow("none") << 0 << 3 << ""
-                          << " ";
-    QTest::newRow("one") << 1 << 1 << " | 1/1page"
-                         << " ";
-    QTest::newRow("a page") << 20 << 1 << " | 1/1page"
-                            << " ";
-    QTest::newRow("two pages") << 21 << 1 << " | 1/2page"
-                               << " >";
-    QTest::newRow("two whole pages") << 40 << 2 << " | 2/2page"
-                                     << "< ";
-    QTest::newRow("in the middle") << 41 << 2 << " | 2/3page"
-                                   << "< >";
-    QTest::newRow("beyond") << 41 << 4 << " | 4/3page"
-                            << "< >"; // as they were
+    for (const auto &one : cases) {
+        DirectorySettings::setPage(7);
+        SearchDir form(nullptr, one.word);
+        QVERIFY(showAndActivate(&form));
+        QString said;
+        QTimer::singleShot(50, &form, [&] {
+            if (auto *toast = form.findChild<Toast *>()) {
+                said = toast->message();
+                toast->timeout();
+            }
+        });
+        form.searchBegin(form.getSearchWord(), one.method);
+        const QString request = sent().value(0);
+        QVERIFY2((said + request).endsWith(one.says), qPrintable(said + request));
+        QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
+        QCOMPARE(int(m_phone->core.getIMEStatus()), int(said.startsWith("Input") ? IMENumeric : IMESmall));
+    }
 }
 
 void DirectoryTest::pagesOfATotal()
 {
-    QFETCH(int, total);
-    QFETCH(int, page);
-    const QList<QList<DirectoryData>> some{entry({{"name", "A"}, {"number", "1"}})};
-    DirectorySettings::setPage(2);
-    SearchDirResult results(nullptr, some, 50);
-    QVERIFY(showAndActivate(&results));
-    DirectorySettings::setPage(page);
-    results.setupResultData(total ? some : QList<QList<DirectoryData>>(), total);
-    QTEST(title().mid(17), "place");
-    QTEST(softKeys(&results).mid(2).join(' '), "pageKeys");
-    QCOMPARE(softKeys(&results).first(), QString(total ? "Call" : ""));
-    QCOMPARE(list(&results)->isVisible(), total > 0);
-    QCOMPARE(DirectorySettings::page(), total ? page : 1);
-    TestScreen::shot(QString("directory-page-%1-of-%2").arg(page).arg(total));
+    const struct
+    {
+        int total, page;
+        const char *place, *pageKeys;
+    } cases[] = {{0, 3, "", " "},
+                 {1, 1, " | 1/1page", " "},
+                 {20, 1, " | 1/1page", " "},
+                 {21, 1, " | 1/2page", " >"},
+                 {40, 2, " | 2/2page", "< "},
+                 {41, 2, " | 2/3page", "< >"},
+                 {41, 4, " | 4/3page", "< >"}}; // beyond: as they were
+    const QList<QList<DirectoryData>> none, some{entry({{"name", "A"}, {"number", "1"}})};
+    for (const auto &one : cases) {
+        DirectorySettings::setPage(2);
+        SearchDirResult results(nullptr, some, 50);
+        QVERIFY(showAndActivate(&results));
+        DirectorySettings::setPage(one.page);
+        results.setupResultData(one.total ? some : none, one.total);
+        QCOMPARE(title(), QString("Directory Service") + one.place);
+        QCOMPARE(softKeys(&results).mid(2).join(' '), QString(one.pageKeys));
+        QCOMPARE(softKeys(&results).first(), QString(one.total ? "Call" : ""));
+        QCOMPARE(list(&results)->isVisible(), one.total > 0);
+        QCOMPARE(DirectorySettings::page(), one.total ? one.page : 1);
+        TestScreen::shot(QString("directory-page-%1-of-%2").arg(one.page).arg(one.total));
+    }
 }
 
 void DirectoryTest::rowsOfAnAnswer()
@@ -150,45 +129,38 @@ void DirectoryTest::rowsOfAnAnswer()
     }
 }
 
-void DirectoryTest::numberOfTheFocusedRow_data()
-{
-    QTest::addColumn<int>("digits");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("called");
-    QTest::newRow("opened") << 20 << 0 << QString(20, '1');
-    QTest::newRow("opened, long") << 21 << 0 << QString(18, '1') + "...";
-    QTest::newRow("number") << 21 << 1 << QString(21, '1');
-    QTest::newRow("type") << 21 << 2 << QString();
-    QTest::newRow("the last other phone") << 21 << 5 << QString(25, '4');
-    QTest::newRow("no number") << 0 << 1 << QString();
-}
-
 void DirectoryTest::numberOfTheFocusedRow()
 {
-    QFETCH(int, digits);
-    QFETCH(int, row);
-    QFETCH(QString, called);
-    DirectorySearchDetail detail(nullptr,
-                                 entry({{"name", "Anna"},
-                                        {"number", QString(digits, '1')},
-                                        {"cell", "3", "phone"},
-                                        {"car", QString(25, '4'), "phone"},
-                                        {"room", "7"}}));
-    QVERIFY(showAndActivate(&detail));
-    for (int i = 0; i < row; ++i)
-        click(Qt::Key_Down);
-    const QString none, callKey = called.isEmpty() ? none : "Call",
-                        messageKey = called.isEmpty() ? none : "Message";
-    QCOMPARE(softKeys(&detail), QStringList({"Save", callKey, messageKey, none}));
-    TestScreen::shot(QString("directory-detail-%1").arg(row));
-    if (row != 1)
-        click(Qt::Key_Return); // acts on the number alone
-    QVERIFY(detail.isVisible());
+    const QString whole(21, '1'), mobile(25, '4');
+    const struct
+    {
+        int digits, row;
+        QString called;
+    } cases[] = {{20, 0, whole.left(20)}, {21, 0, whole.left(18) + "..."},
+                 {21, 1, whole},          {21, 2, ""},
+                 {21, 5, mobile},         {0, 1, ""}};
     ListeningApp messages("message");
-    click(Qt::Key_Context3);
-    click(Qt::Key_Context2);
-    const QStringList both{"message newMessage(str) " + called, Close, call(called, "Anna")};
-    QCOMPARE(sent(), called.isEmpty() ? QStringList() : both);
+    for (const auto &one : cases) {
+        DirectorySearchDetail detail(nullptr,
+                                     entry({{"name", "Anna"},
+                                            {"number", whole.left(one.digits)},
+                                            {"cell", "3", "phone"},
+                                            {"car", mobile, "phone"},
+                                            {"room", "7"}}));
+        QVERIFY(showAndActivate(&detail));
+        for (int i = 0; i < one.row; ++i)
+            click(Qt::Key_Down);
+        const bool offered = !one.called.isEmpty();
+        QCOMPARE(softKeys(&detail), QStringList({"Save", offered ? "Call" : "", offered ? "Message" : "", ""}));
+        TestScreen::shot(QString("directory-detail-%1").arg(one.row));
+        if (one.row != 1)
+            click(Qt::Key_Return); // acts on the number alone
+        QVERIFY(detail.isVisible());
+        click(Qt::Key_Context3);
+        click(Qt::Key_Context2);
+        const QStringList both{"message newMessage(str) " + one.called, Close, call(one.called, "Anna")};
+        QCOMPARE(sent(), offered ? both : QStringList());
+    }
 }
 
 PHONE_TEST_MAIN(DirectoryTest)
