@@ -90,7 +90,7 @@ void SearchDirResult::setupResultData(QList<QList<DirectoryData>> results, int t
     m_results = results;
     m_totalCount = totalCount;
     m_currentPageCount = DirectorySettings::page();
-    setupStatus();
+    SearchDirResult::setupStatus();
     setupTail();
     m_noResultLabel->hide();
     m_listView->show();
