@@ -96,22 +96,15 @@ void DirectoryRequestsTest::searchUrls()
 
 void DirectoryRequestsTest::pageUrls()
 {
-    const struct
-    {
-        int page;
-        const char *path, *timestamp, *url;
-    } rows[] = {
-        {2, "/r/x/", "99", "http://7:p@a/r/x/000000000000_7_99_2.xml"},
-        {0, "r", "", "http://7:p@a/r/000000000000_7_0.xml"},
-        {1, "//r", "9", "http://7:p@a//r/000000000000_7_9_1.xml"},
-        {1, "", "9", "http://7:p@a//000000000000_7_9_1.xml"},
-        {-1, "r", "9", ""},
-    };
+    const auto url = makeDirectoryServicePageURL;
     provision("Addr=a\n");
-    for (const auto &row : rows)
-        QCOMPARE(makeDirectoryServicePageURL(row.page, row.path, row.timestamp), QByteArray(row.url));
+    QCOMPARE(url(2, "/r/x/", "99"), QByteArray("http://7:p@a/r/x/000000000000_7_99_2.xml"));
+    QCOMPARE(url(0, "r", ""), QByteArray("http://7:p@a/r/000000000000_7_0.xml"));
+    QCOMPARE(url(1, "//r", "9"), QByteArray("http://7:p@a//r/000000000000_7_9_1.xml"));
+    QCOMPARE(url(1, "", "9"), QByteArray("http://7:p@a//000000000000_7_9_1.xml"));
+    QCOMPARE(url(-1, "r", "9"), QByteArray());
     provision("Addr=a\n", "SECONDARY");
-    QCOMPARE(makeDirectoryServicePageURL(1, "r", "9"), QByteArray("http://7:p@/r/000000000000_7_9_1.xml"));
+    QCOMPARE(url(1, "r", "9"), QByteArray("http://7:p@/r/000000000000_7_9_1.xml"));
 }
 
 void DirectoryRequestsTest::ports()
