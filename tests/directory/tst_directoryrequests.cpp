@@ -11,7 +11,6 @@
 #include <QNetworkDatagram>
 #include <QUdpSocket>
 
-#include <functional>
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -96,22 +95,15 @@ void DirectoryRequestsTest::searchUrls()
 
 void DirectoryRequestsTest::pageUrls()
 {
-    const struct
-    {
-        int page;
-        const char *path, *timestamp, *url;
-    } rows[] = {
-        {2, "/r/x/", "99", "http://7:p@a/r/x/000000000000_7_99_2.xml"},
-        {0, "r", "", "http://7:p@a/r/000000000000_7_0.xml"},
-        {1, "//r", "9", "http://7:p@a//r/000000000000_7_9_1.xml"},
-        {1, "", "9", "http://7:p@a//000000000000_7_9_1.xml"},
-        {-1, "r", "9", ""},
-    };
+    const auto url = makeDirectoryServicePageURL;
     provision("Addr=a\n");
-    for (const auto &row : rows)
-        QCOMPARE(makeDirectoryServicePageURL(row.page, row.path, row.timestamp), QByteArray(row.url));
+    QCOMPARE(url(2, "/r/x/", "99"), QByteArray("http://7:p@a/r/x/000000000000_7_99_2.xml"));
+    QCOMPARE(url(0, "r", ""), QByteArray("http://7:p@a/r/000000000000_7_0.xml"));
+    QCOMPARE(url(1, "//r", "9"), QByteArray("http://7:p@a//r/000000000000_7_9_1.xml"));
+    QCOMPARE(url(1, "", "9"), QByteArray("http://7:p@a//000000000000_7_9_1.xml"));
+    QCOMPARE(url(-1, "r", "9"), QByteArray());
     provision("Addr=a\n", "SECONDARY");
-    QCOMPARE(makeDirectoryServicePageURL(1, "r", "9"), QByteArray("http://7:p@/r/000000000000_7_9_1.xml"));
+    QCOMPARE(url(1, "r", "9"), QByteArray("http://7:p@/r/000000000000_7_9_1.xml"));
 }
 
 void DirectoryRequestsTest::ports()
@@ -130,38 +122,32 @@ void DirectoryRequestsTest::ports()
 void DirectoryRequestsTest::datagrams()
 {
     const QByteArray call = QByteArrayLiteral("CM/UI\0ui2cm_svc_directory(int,str,str)\0\xff\xff\xff\xff");
-    const QByteArray nothing = "end";
-    const struct
-    {
-        std::function<void()> send;
-        QByteArray datagram;
-    } rows[] = {
-        {[] { sendUI2HTTPDirectorySearchRequest("http://ü"); },
-         QByteArrayLiteral("XCID/UI\0ui2http_directory_search_request(str)\0\0\x08http://\xfc")},
-        {[] { sendUI2HTTPDirectoryPageRequest(""); },
-         QByteArrayLiteral("XCID/UI\0ui2http_directory_page_request(str)\0\0\0")},
-        {[] { sendUI2HTTPDirectorySearchCancel(); },
-         QByteArrayLiteral("XCID/UI\0ui2http_directory_cancel_request()\0")},
-        {[] { sendUI2HTTPDirectorySearchRequest(QString(4090, 'a')); }, ""},
-        {[] { directoryServiceRequest(0, "12", "x"); }, call + QByteArrayLiteral("\0\x08NEW_CALL\0\x02") + "12"},
-        {[] { directoryServiceRequest(2, "1", ""); },
-         call + QByteArrayLiteral("\0\x0fSEMI_BLIND_XFER\0\x01") + "1"},
-        {[] { directoryServiceRequest(3, "1", ""); }, call + QByteArrayLiteral("\0\10COA_CONF\0\x01") + "1"},
-        {[] { directoryServiceRequest(0, "", "x"); }, nothing},
-        {[] { directoryServiceRequest(1, "1", "x"); }, nothing},
-        {[] { directoryServiceRequest(7, "1", "x"); }, nothing},
-    };
-    for (const auto &row : rows) {
+    const auto sent = [this](void (*send)()) {
         QUdpSocket listener;
-        QVERIFY(listener.bind(QHostAddress::LocalHost));
+        listener.bind(QHostAddress::LocalHost);
         // The sender keeps the low 16 bits.
         const QByteArray port = QByteArray::number(65536 + listener.localPort());
         m_phone->writeFile("config/ipc.conf", "[CM]\nPort=" + port + "\n[XCID]\nPort=" + port + "\n");
-        row.send();
+        send();
         QUdpSocket().writeDatagram("end", 3, QHostAddress::LocalHost, listener.localPort());
-        QVERIFY(listener.waitForReadyRead());
-        QCOMPARE(listener.receiveDatagram().data(), row.datagram);
-    }
+        return listener.waitForReadyRead() ? listener.receiveDatagram().data() : "none";
+    };
+    QCOMPARE(sent([] { sendUI2HTTPDirectorySearchRequest("http://ü"); }),
+             QByteArrayLiteral("XCID/UI\0ui2http_directory_search_request(str)\0\0\x08http://\xfc"));
+    QCOMPARE(sent([] { sendUI2HTTPDirectoryPageRequest(""); }),
+             QByteArrayLiteral("XCID/UI\0ui2http_directory_page_request(str)\0\0\0"));
+    QCOMPARE(sent(sendUI2HTTPDirectorySearchCancel),
+             QByteArrayLiteral("XCID/UI\0ui2http_directory_cancel_request()\0"));
+    QCOMPARE(sent([] { sendUI2HTTPDirectorySearchRequest(QString(4090, 'a')); }), QByteArray(""));
+    QCOMPARE(sent([] { directoryServiceRequest(0, "12", "x"); }),
+             call + QByteArrayLiteral("\0\x08NEW_CALL\0\x02") + "12");
+    QCOMPARE(sent([] { directoryServiceRequest(2, "1", ""); }),
+             call + QByteArrayLiteral("\0\x0fSEMI_BLIND_XFER\0\x01") + "1");
+    QCOMPARE(sent([] { directoryServiceRequest(3, "1", ""); }),
+             call + QByteArrayLiteral("\0\10COA_CONF\0\x01") + "1");
+    QCOMPARE(sent([] { directoryServiceRequest(0, "", "x"); }), QByteArray("end")); // nothing before it
+    QCOMPARE(sent([] { directoryServiceRequest(1, "1", "x"); }), QByteArray("end"));
+    QCOMPARE(sent([] { directoryServiceRequest(7, "1", "x"); }), QByteArray("end"));
 }
 
 void DirectoryRequestsTest::answers_data()
