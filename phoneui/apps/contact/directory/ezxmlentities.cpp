@@ -13,7 +13,7 @@ namespace {
 
 struct BuiltIn
 {
-    const char *name;
+    std::string_view name; // with its semicolon
     const char *replacement;
     char character;
 };
@@ -31,7 +31,7 @@ const std::size_t s_allowancePerByte = 4;
 char builtIn(std::string_view name)
 {
     for (const BuiltIn &known : s_builtIns) {
-        if (name.size() + 1 == std::strlen(known.name) && std::memcmp(name.data(), known.name, name.size()) == 0)
+        if (name == known.name.substr(0, known.name.size() - 1))
             return known.character;
     }
     return '\0';
@@ -62,14 +62,17 @@ int marks(EzxmlEntities::Kind kind)
     return Ampersand | CarriageReturn | LineFeedOrTab;
 }
 
-void collapseSpaces(std::string *text)
+/// The length of a text after spaces at its ends and repeated ones are dropped from it.
+std::size_t collapseSpaces(char *text, std::size_t length)
 {
-    const auto twoSpaces = [](char a, char b) { return a == ' ' && b == ' '; };
-    text->erase(std::unique(text->begin(), text->end(), twoSpaces), text->end());
-    if (!text->empty() && text->front() == ' ')
-        text->erase(0, 1);
-    if (!text->empty() && text->back() == ' ')
-        text->pop_back();
+    char *out = text;
+    for (const char *in = text; in < text + length; ++in) {
+        if (*in != ' ' || (out > text && out[-1] != ' '))
+            *out++ = *in;
+    }
+    if (out > text && out[-1] == ' ')
+        --out;
+    return static_cast<std::size_t>(out - text);
 }
 
 int digitValue(char c)
@@ -88,6 +91,29 @@ bool isCodePoint(unsigned code)
     return code > 0 && code < 0x110000 && (code < 0xd800 || code > 0xdfff);
 }
 
+}
+
+void EzxmlOutput::put(const char *from, const char *to)
+{
+    const std::size_t length = static_cast<std::size_t>(to - from);
+    if (static_cast<std::size_t>(m_limit - m_at) < length)
+        grow(length);
+    if (m_at != from)
+        std::memmove(m_at, from, length);
+    m_at += length;
+}
+
+void EzxmlOutput::grow(std::size_t bytes)
+{
+    const std::size_t length = size();
+    if (m_buffer.size() < length + bytes)
+        m_buffer.resize(2 * (length + bytes));
+    if (!m_isDetached)
+        std::memcpy(m_buffer.data(), m_start, length);
+    m_isDetached = true;
+    m_start = m_buffer.data();
+    m_at = m_start + length;
+    m_limit = m_start + m_buffer.size();
 }
 
 EzxmlEntities::EzxmlEntities(EzxmlMemory *memory, std::size_t documentLength)
@@ -143,40 +169,43 @@ std::string EzxmlEntities::circular() const
 
 char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
 {
-    expand(std::string_view(text, *length), kind);
-    if (m_output.size() > *length)
-        text = m_memory->array<char>(m_output.size() + 1);
+    char *const end = text + *length;
+    m_output.start(text, *length);
+    expand({text, end}, kind);
+    if (kind == AttributeToken)
+        m_output.truncate(collapseSpaces(m_output.data(), m_output.size()));
     *length = m_output.size();
-    std::memcpy(text, m_output.data(), *length);
-    text[*length] = '\0';
+    if (m_output.isDetached())
+        return m_memory->text(m_output.data(), *length);
+    // Nothing that was moved may stand there twice: lines are counted when a fault is told.
+    std::memset(text + *length, '\0', static_cast<std::size_t>(end - text) - *length);
     return text;
 }
 
-std::string EzxmlEntities::decoded(std::string_view text, Kind kind)
+std::string EzxmlEntities::decoded(std::string text, Kind kind)
 {
-    expand(text, kind);
-    return m_output;
+    std::size_t length = text.size();
+    return std::string(decode(text.data(), &length, kind), length);
 }
 
-void EzxmlEntities::expand(std::string_view text, Kind kind)
+void EzxmlEntities::expand(Source source, Kind kind)
 {
-    m_output.clear();
-    m_sources.push_back({text.data(), text.data() + text.size()});
     const int stops = marks(kind);
-    while (!m_sources.empty() && !m_overflown) {
-        Source &source = m_sources.back();
+    while (!m_overflown) {
         const char *from = source.at;
         while (source.at < source.end && !is(*source.at, stops))
             ++source.at;
-        m_output.append(from, source.at);
-        if (source.at == source.end)
-            m_sources.pop_back();
-        else
-            expandMark(kind);
+        m_output.put(from, source.at);
+        if (source.at < source.end) {
+            expandMark(&source, kind);
+        } else if (m_suspended.empty()) {
+            return;
+        } else {
+            source = m_suspended.back();
+            m_suspended.pop_back();
+        }
     }
-    m_sources.clear();
-    if (kind == AttributeToken)
-        collapseSpaces(&m_output);
+    m_suspended.clear();
 }
 
 void EzxmlEntities::spend(std::size_t bytes)
@@ -185,27 +214,26 @@ void EzxmlEntities::spend(std::size_t bytes)
     m_allowance -= std::min(m_allowance, bytes + 1);
 }
 
-void EzxmlEntities::expandMark(Kind kind)
+void EzxmlEntities::expandMark(Source *source, Kind kind)
 {
     const bool attribute = kind == AttributeText || kind == AttributeToken;
-    const bool inDocument = m_sources.size() == 1;
-    Source &source = m_sources.back();
-    const char c = *source.at;
+    const bool inDocument = m_suspended.empty();
+    const char c = *source->at;
     if (c == '&' || c == '%') {
-        if (!(c == '&' && expandNumber(&source)) && !expandName(&source, kind)) {
-            m_output += c;
-            ++source.at;
+        if (!(c == '&' && expandNumber(source)) && !expandName(source, kind)) {
+            m_output.put(c);
+            ++source->at;
         }
         return;
     }
-    ++source.at;
+    ++source->at;
     // A line end of the document is a line feed, however it is written; one in a replacement was asked for.
-    if (c == '\r' && inDocument && source.at < source.end && *source.at == '\n')
-        ++source.at;
+    if (c == '\r' && inDocument && source->at < source->end && *source->at == '\n')
+        ++source->at;
     if (attribute)
-        m_output += ' ';
+        m_output.put(' ');
     else
-        m_output += inDocument ? '\n' : c;
+        m_output.put(inDocument ? '\n' : c);
 }
 
 bool EzxmlEntities::expandNumber(Source *source)
@@ -229,7 +257,7 @@ bool EzxmlEntities::expandNumber(Source *source)
     if (at >= source->end || *at != ';' || !isCodePoint(code))
         return false;
     char utf8[4];
-    m_output.append(utf8, putUtf8(utf8, code));
+    m_output.put(utf8, putUtf8(utf8, code));
     source->at = at + 1;
     return true;
 }
@@ -248,13 +276,15 @@ bool EzxmlEntities::expandName(Source *source, Kind kind)
         return false;
     source->at = name.data() + name.size() + 1;
     if (character) {
-        m_output += character;
+        m_output.put(character);
         return true;
     }
     spend(text->size());
     // Only an entity that contains itself nests deeper than there are entities.
-    m_overflown = m_overflown || m_sources.size() > m_general.size() + m_parameters.size();
-    m_sources.push_back({text->data(), text->data() + text->size()});
+    m_overflown = m_overflown || m_suspended.size() > m_general.size() + m_parameters.size();
+    m_output.detach();
+    m_suspended.push_back(*source);
+    *source = {text->data(), text->data() + text->size()};
     return true;
 }
 
@@ -264,7 +294,7 @@ char **EzxmlEntities::table() const
     char **table = m_memory->array<char *>(2 * (known + m_general.size()) + 1);
     char **entry = table;
     for (const BuiltIn &builtIn : s_builtIns) {
-        *entry++ = const_cast<char *>(builtIn.name);
+        *entry++ = const_cast<char *>(builtIn.name.data());
         *entry++ = const_cast<char *>(builtIn.replacement);
     }
     for (const auto &[name, replacement] : m_general) {

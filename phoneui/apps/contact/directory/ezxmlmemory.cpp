@@ -8,24 +8,17 @@
 
 namespace {
 
-const std::size_t s_firstBlock = 4 * 1024;
-const std::size_t s_largestBlock = 64 * 1024 * 1024;
-/// From this size on blocks come from the kernel, in pages so large that touching them for the first time is cheap.
+const std::size_t s_smallestBlock = 4 * 1024;
 const std::size_t s_largePage = 2 * 1024 * 1024;
 
-char *mapLargePages(std::size_t bytes)
+/// Asks for large pages inside a large block: touching memory for the first time is then hundreds of times rarer.
+void adviseLargePages(char *block, std::size_t size)
 {
-    void *memory = mmap(nullptr, bytes + s_largePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (memory == MAP_FAILED)
-        return nullptr;
-    char *start = static_cast<char *>(memory);
-    const std::size_t odd = reinterpret_cast<std::size_t>(start) % s_largePage;
-    const std::size_t before = odd == 0 ? 0 : s_largePage - odd;
-    if (before > 0)
-        munmap(start, before);
-    munmap(start + before + bytes, s_largePage - before);
-    madvise(start + before, bytes, MADV_HUGEPAGE); // without it the pages are small and all works the same
-    return start + before;
+    const std::size_t start = reinterpret_cast<std::size_t>(block);
+    const std::size_t first = (start + s_largePage - 1) / s_largePage * s_largePage;
+    const std::size_t end = (start + size) / s_largePage * s_largePage;
+    if (end > first)
+        madvise(block + (first - start), end - first, MADV_HUGEPAGE); // only a hint: refusing it breaks nothing
 }
 
 }
@@ -33,7 +26,6 @@ char *mapLargePages(std::size_t bytes)
 struct EzxmlMemory::Block
 {
     Block *earlier;
-    std::size_t size;
 };
 
 EzxmlMemory::~EzxmlMemory()
@@ -41,24 +33,21 @@ EzxmlMemory::~EzxmlMemory()
     while (m_last) {
         Block *block = m_last;
         m_last = block->earlier;
-        if (block->size >= s_largePage)
-            munmap(block, block->size);
-        else
-            std::free(block);
+        std::free(block);
     }
 }
 
 void EzxmlMemory::addBlock(std::size_t bytes)
 {
-    std::size_t size = m_last ? std::min(m_last->size * 2, s_largestBlock) : s_firstBlock;
-    while (size < bytes + sizeof(Block))
-        size *= 2;
-    char *memory = size >= s_largePage ? mapLargePages(size) : static_cast<char *>(std::malloc(size));
+    const std::size_t size = std::max({bytes + sizeof(Block), m_nextBlock, s_smallestBlock});
+    char *memory = static_cast<char *>(std::malloc(size));
     if (!memory)
         std::abort();
-    m_last = new (memory) Block{m_last, size};
+    adviseLargePages(memory, size);
+    m_last = new (memory) Block{m_last};
     m_next = memory + sizeof(Block);
     m_end = memory + size;
+    m_nextBlock = size * 2;
 }
 
 char *EzxmlMemory::text(const char *from, std::size_t length)

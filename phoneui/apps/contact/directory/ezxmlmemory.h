@@ -4,13 +4,19 @@
 #include <cstddef>
 
 /// Memory that is handed out piece by piece and freed as a whole: the records of one tree.
-class EzxmlMemory
+class [[gnu::visibility("hidden")]] EzxmlMemory
 {
 public:
     EzxmlMemory() = default;
     EzxmlMemory(const EzxmlMemory &) = delete;
     EzxmlMemory &operator=(const EzxmlMemory &) = delete;
     ~EzxmlMemory();
+
+    /// How much will be needed, as far as one can tell beforehand.
+    void expect(std::size_t bytes)
+    {
+        m_nextBlock = bytes;
+    }
 
     /// Aligned for pointers; what it holds is undefined.
     void *allocate(std::size_t bytes)
@@ -23,7 +29,10 @@ public:
         return piece;
     }
 
-    template <typename T> T *array(std::size_t count) { return static_cast<T *>(allocate(count * sizeof(T))); }
+    template <typename T> T *array(std::size_t count)
+    {
+        return static_cast<T *>(allocate(count * sizeof(T)));
+    }
 
     /// A copy that ends in a NUL.
     char *text(const char *from, std::size_t length);
@@ -34,6 +43,7 @@ private:
     void addBlock(std::size_t bytes);
 
     Block *m_last = nullptr;
+    std::size_t m_nextBlock = 0;
     char *m_next = nullptr;
     char *m_end = nullptr;
 };

@@ -2,26 +2,19 @@
 
 #include <random>
 
-void EzxmlNames::add(std::size_t mark, const EzxmlName &name, ezxml *element)
+void EzxmlNames::indexTop(std::size_t mark)
 {
-    const std::size_t size = m_entries.size();
-    if (size > mark) {
-        for (ezxml *before = m_entries.back().first; before; before = before->next)
-            before->sibling = element;
-    }
-    m_entries.push_back({name, element, element});
-    if (size - mark == s_scanned) {
-        for (std::size_t i = mark; i <= size; ++i)
-            index(i);
-    } else if (size - mark > s_scanned) {
-        index(size);
-    }
+    const std::size_t top = m_entries.size() - 1;
+    for (std::size_t entry = top - mark == s_scanned ? mark : top; entry <= top; ++entry)
+        index(entry);
 }
 
-EzxmlNames::Entry *EzxmlNames::findHashed(const EzxmlName &name, const ezxml *parent)
+bool EzxmlNames::findHashed(Scope *scope, EzxmlName name, const ezxml *parent)
 {
     const Slot &found = m_index[slot(name, parent)];
-    return found.parent ? &m_entries[found.entry] : nullptr;
+    if (found.parent)
+        scope->latest = found.entry;
+    return found.parent;
 }
 
 std::uint64_t EzxmlNames::hash(const EzxmlName &name, const ezxml *parent) const

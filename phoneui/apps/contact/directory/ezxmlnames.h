@@ -2,6 +2,7 @@
 #define EZXMLNAMES_H
 
 #include "ezxml.h"
+#include "ezxmlstack.h"
 
 #include <cstdint>
 #include <cstring>
@@ -11,13 +12,12 @@
 /// most names, so that names are compared at once.
 struct EzxmlName
 {
-    const char *text = nullptr;
-    std::size_t length = 0;
-    std::uint64_t key = 0;
+    const char *text;
+    std::size_t length;
+    std::uint64_t key;
 
-    EzxmlName() = default;
     /// Up to `end` the bytes behind the name may be read.
-    EzxmlName(const char *from, std::size_t size, const char *end) : text(from), length(size)
+    EzxmlName(const char *from, std::size_t size, const char *end) : text(from), length(size), key(0)
     {
         if (end - from >= 8) {
             std::memcpy(&key, from, 8);
@@ -58,9 +58,46 @@ private:
 /// The names of the children that the open elements have so far, each with its first and last element, so that an
 /// element is appended at the same cost wherever it comes. The names of one element lie together on top of those
 /// of the elements around it.
-class EzxmlNames
+class [[gnu::visibility("hidden")]] EzxmlNames
 {
 public:
+    /// The names under one parent: from `first` to the top.
+    struct Scope
+    {
+        std::size_t first;
+        std::size_t latest; ///< the name of the last element
+        std::uint64_t seen; ///< a bit for each name, which several may share
+    };
+
+    EzxmlNames() = default;
+
+    Scope open() const
+    {
+        return {m_entries.size(), m_entries.size(), 0};
+    }
+    void close(const Scope &scope)
+    {
+        m_entries.truncate(scope.first);
+    }
+
+    /// Links an element behind its forerunners of the same name.
+    void append(Scope * scope, const EzxmlName &name, ezxml *element)
+    {
+        const std::uint64_t bit = std::uint64_t(1) << ((name.key * 0x9e3779b97f4a7c15U) >> 58);
+        if (scope->seen & bit) {
+            if (m_entries[scope->latest].name == name || find(scope, name, element->parent)) {
+                Entry &entry = m_entries[scope->latest];
+                entry.last->next = element;
+                entry.last = element;
+                element->sibling = entry.first->sibling;
+                return;
+            }
+        }
+        scope->seen |= bit;
+        add(scope, name, element);
+    }
+
+private:
     struct Entry
     {
         EzxmlName name;
@@ -68,46 +105,42 @@ public:
         ezxml *last;
     };
 
-    EzxmlNames() = default;
-
-    std::size_t size() const { return m_entries.size(); }
-    /// Forgets the names from `mark` on: their parent is closed.
-    void truncate(std::size_t mark) { m_entries.resize(mark); }
-
-    /// Links an element behind its forerunners of the same name. `mark` is where the names of its parent start.
-    void append(std::size_t mark, const EzxmlName &name, ezxml *element)
-    {
-        Entry *entry = find(mark, name, element->parent);
-        if (entry) {
-            entry->last->next = element;
-            entry->last = element;
-            element->sibling = entry->first->sibling;
-        } else {
-            add(mark, name, element);
-        }
-    }
-
-private:
     /// With more names than this a hash table takes the place of the scan.
     static const std::size_t s_scanned = 12;
 
-    Entry *find(std::size_t mark, const EzxmlName &name, const ezxml *parent)
+    /// Makes the name the latest; false when there is no such name yet.
+    bool find(Scope * scope, EzxmlName name, const ezxml *parent)
     {
-        const std::size_t size = m_entries.size();
-        if (size - mark > s_scanned)
-            return findHashed(name, parent);
-        for (std::size_t i = size; i-- > mark;) {
-            if (m_entries[i].name == name)
-                return &m_entries[i];
+        std::size_t entry = m_entries.size();
+        if (entry - scope->first > s_scanned)
+            return findHashed(scope, name, parent);
+        while (entry-- > scope->first) {
+            if (m_entries[entry].name == name) {
+                scope->latest = entry;
+                return true;
+            }
         }
-        return nullptr;
+        return false;
     }
 
-    void add(std::size_t mark, const EzxmlName &name, ezxml *element);
-    Entry *findHashed(const EzxmlName &name, const ezxml *parent);
+    void add(Scope * scope, const EzxmlName &name, ezxml *element)
+    {
+        scope->latest = m_entries.size();
+        if (scope->latest > scope->first) {
+            for (ezxml *before = m_entries.top().first; before; before = before->next)
+                before->sibling = element;
+        }
+        *m_entries.push() = {name, element, element};
+        if (scope->latest - scope->first >= s_scanned)
+            indexTop(scope->first);
+    }
+
+    bool findHashed(Scope * scope, EzxmlName name, const ezxml *parent);
     std::uint64_t hash(const EzxmlName &name, const ezxml *parent) const;
     /// The slot that holds the name, or the free one where it belongs.
     std::size_t slot(const EzxmlName &name, const ezxml *parent) const;
+    /// Takes the topmost name into the table, and with the first that needs it those before.
+    void indexTop(std::size_t mark);
     void index(std::size_t entry);
     void growIndex();
 
@@ -117,7 +150,7 @@ private:
         std::size_t entry;
     };
 
-    std::vector<Entry> m_entries;
+    EzxmlStack<Entry> m_entries;
     /// Entries by name and parent. What a closed parent leaves behind is dropped when the table grows.
     std::vector<Slot> m_index;
     std::size_t m_indexed = 0;

@@ -42,7 +42,7 @@ struct Classes
     unsigned char of[256];
 };
 
-inline constexpr Classes classes;
+static constexpr Classes classes;
 
 inline bool is(char c, int wanted)
 {
@@ -106,14 +106,47 @@ inline unsigned bits(__m128i found)
 }
 #endif
 
-/// The first of `<`, `&` and CR, or `end`.
-inline char *findContentMark(char *at, const char *end)
+#ifdef __SSE2__
+/// A bit for each of 16 bytes that text does not go on over.
+inline unsigned contentMarks(const char *at)
+{
+    const __m128i bytes = block(at);
+    return bits(_mm_or_si128(either(bytes, '<', '&'), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r'))));
+}
+
+/// 0xff for each byte from `low` to `high`.
+inline __m128i within(__m128i bytes, char low, char high)
+{
+    const __m128i above = _mm_sub_epi8(bytes, _mm_set1_epi8(low));
+    return _mm_cmpeq_epi8(_mm_min_epu8(above, _mm_set1_epi8(static_cast<char>(high - low))), above);
+}
+#endif
+
+/// The first byte that is no NameChar.
+inline char *findNameEnd(char *at, const char *end)
 {
 #ifdef __SSE2__
     for (; end - at >= blockSize; at += blockSize) {
         const __m128i bytes = block(at);
-        const __m128i found = _mm_or_si128(either(bytes, '<', '&'), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r')));
-        if (const unsigned set = bits(found))
+        const __m128i letters = within(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
+        const __m128i others = _mm_andnot_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')), within(bytes, '-', ':'));
+        const __m128i line = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('_'));
+        // The sign bits that are gathered are those of the bytes from 0x80 on as well.
+        const unsigned names = bits(_mm_or_si128(_mm_or_si128(letters, others), _mm_or_si128(line, bytes)));
+        if (names != 0xffff)
+            return at + __builtin_ctz(~names);
+    }
+#endif
+    return skip(at, NameChar);
+}
+
+/// The first of `<`, `&` and CR, or `end`.
+inline char *findContentMark(char *at, const char *end)
+{
+#ifdef __SSE2__
+    // Two blocks a step: most texts end in the first step, so that its branch is foreseen.
+    for (; end - at >= 2 * blockSize; at += 2 * blockSize) {
+        if (const unsigned set = contentMarks(at) | contentMarks(at + blockSize) << blockSize)
             return at + __builtin_ctz(set);
     }
 #endif

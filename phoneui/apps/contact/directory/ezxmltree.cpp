@@ -21,16 +21,26 @@ void cut(const ezxml *element)
         link = &(*link)->ordered;
     *link = element->ordered;
     EzxmlNames names;
+    EzxmlNames::Scope scope = names.open();
     for (ezxml *other = element->parent->child; other; other = other->ordered) {
         const std::size_t length = std::strlen(other->name);
         other->next = other->sibling = nullptr;
-        names.append(0, EzxmlName(other->name, length, other->name + length), other);
+        names.append(&scope, EzxmlName(other->name, length, other->name + length), other);
     }
 }
 
 }
 
 // Behind the null pointer that ends a list of attributes stand its flags.
+namespace {
+
+bool same(const char *a, const char *b)
+{
+    return *a == *b && std::strcmp(a, b) == 0;
+}
+
+}
+
 char *const EZXML_NIL[] = {nullptr, EzxmlDocument::noText};
 
 char EzxmlDocument::noText[] = "";
@@ -48,7 +58,7 @@ ezxml *ezxml_child(ezxml *element, const char *name)
 {
     ezxml *child = element ? element->child : nullptr;
     if (name) {
-        while (child && std::strcmp(child->name, name) != 0)
+        while (child && !same(child->name, name))
             child = child->sibling;
     }
     return child;
@@ -66,7 +76,7 @@ const char *ezxml_attr(ezxml *element, const char *name)
     if (!element)
         return nullptr;
     for (char **pair = element->attr; *pair; pair += 2) {
-        if (std::strcmp(pair[0], name) == 0)
+        if (same(pair[0], name))
             return pair[1];
     }
     return element->declared ? rootOf(element)->document->doctype.defaultValue(element->name, name) : nullptr;
@@ -77,7 +87,7 @@ const char **ezxml_pi(ezxml *element, const char *target)
     char **instructions = const_cast<char **>(EZXML_NIL);
     if (element) {
         for (char ***entry = rootOf(element)->pi; *entry; ++entry) {
-            if (std::strcmp((*entry)[0], target) == 0)
+            if (same((*entry)[0], target))
                 instructions = *entry + 1;
         }
     }
