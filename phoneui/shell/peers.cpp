@@ -13,6 +13,7 @@ struct Peer
 };
 constexpr Peer table[] = {
     {"cm", "CM"},
+    {"xcid", "XCID"},
 };
 
 void writePort(const QString &section, quint16 port)

@@ -1,45 +1,17 @@
 // The call manager as a process: datagrams in, states of the call out over the peers' socket.
 
-#include "control/apppayload.h"
 #include "message.h"
-#include "peerserver.h"
-#include "testcase.h"
+#include "peertest.h"
 #include "testmain.h"
-#include "testphone.h"
 #include "tocmsocket.h"
 
-#include <QProcess>
-#include <QSettings>
 #include <QUdpSocket>
 
-#include <memory>
-
-/// The application that hears of calls.
-class ListeningCall final : public BaseAppInterface
-{
-public:
-    ListeningCall() : BaseAppInterface("call", nullptr) { }
-    ~ListeningCall() = default;
-
-    bool start(QWidget *, void *) override { return true; }
-    void end() override { }
-    void receiveMsg(const QString &command, const QByteArray &payload) override
-    {
-        QStringList words;
-        for (const QVariant &item : AppPayload::decode(command, payload))
-            words.append(item.toString());
-        states.append(words.join(' ').trimmed());
-    }
-
-    QStringList states;
-};
-
-class CmTest : public TestCase
+class CmTest : public PeerTest
 {
     Q_OBJECT
 
     void setUp() override;
-    void tearDown() override;
 
 private slots:
     void aCall_data();
@@ -53,7 +25,6 @@ private slots:
     void aPortThatIsTaken();
 
 private:
-    bool startManager();
     void send(const QByteArray &datagram) { QUdpSocket().writeDatagram(datagram, QHostAddress::LocalHost, m_port); }
     static QByteArray directory(const QByteArray &mode, const QByteArray &number)
     {
@@ -65,58 +36,13 @@ private:
         return message_MakeFromValues(
             {"CM/UI", "ui2cm_svc_dialer(int,str,str,str,str,int,int)", {0, mode, number, name, callMode, 2, -1}});
     }
-    /// Whether the manager writes this into its log.
-    bool logs(const QByteArray &text);
-
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<PeerServer> m_server;
-    std::unique_ptr<ListeningCall> m_call;
-    std::unique_ptr<QProcess> m_manager;
-    QByteArray m_log;
-    quint16 m_port = 0;
 };
 
 void CmTest::setUp()
 {
-    m_phone.reset(new TestPhone);
+    makePhone("call");
     m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=20\nAnswerTime=20\nBusyTime=20\n");
-    m_server.reset(new PeerServer);
-    QVERIFY(m_server->listen(m_phone->home.peerSocket()));
-    m_call.reset(new ListeningCall);
-    m_log.clear();
-    QVERIFY(startManager());
-}
-
-void CmTest::tearDown()
-{
-    m_manager->kill();
-    m_manager->waitForFinished();
-    m_manager.reset();
-    m_call.reset();
-    m_server.reset();
-    m_phone.reset();
-}
-
-bool CmTest::startManager()
-{
-    m_manager.reset(new QProcess);
-    m_manager->start(PHONE_PROGRAMS "/cm", {"--home", m_phone->home.root(), "--port", "0"});
-    while (!m_manager->canReadLine()) {
-        if (!m_manager->waitForReadyRead())
-            return false;
-    }
-    m_port = m_manager->readLine().trimmed().toUShort();
-    // Where those who send to it look.
-    QSettings(m_phone->home.path("config/ipc.conf"), QSettings::IniFormat).setValue("CM/Port", m_port);
-    return m_port != 0;
-}
-
-bool CmTest::logs(const QByteArray &text)
-{
-    return QTest::qWaitFor([&] {
-        m_log += m_manager->readAllStandardError();
-        return m_log.contains(text);
-    });
+    QVERIFY(startPeer("cm"));
 }
 
 void CmTest::aCall_data()
@@ -138,22 +64,22 @@ void CmTest::aCall()
     QFETCH(QByteArray, request);
     QFETCH(QStringList, states);
     send(request);
-    QTRY_COMPARE(m_call->states.size(), states.size());
-    QCOMPARE(m_call->states, states);
+    QTRY_COMPARE(m_app->heard.size(), states.size());
+    QCOMPARE(m_app->heard, states);
 }
 
 void CmTest::hangingUp()
 {
     ToCMSocket::sendUI2CMSvcHangup(); // of nothing
     ToCMSocket::sendUI2CMSvcDialer(0, "NORMAL", "1", "", "AUDIO", 2, -1);
-    QTRY_COMPARE(m_call->states.value(2), QString("CONNECT 1"));
+    QTRY_COMPARE(m_app->heard.value(2), QString("CONNECT 1"));
     ToCMSocket::sendUI2CMSvcHangup();
-    QTRY_COMPARE(m_call->states.value(3), QString("IDLE 1"));
+    QTRY_COMPARE(m_app->heard.value(3), QString("IDLE 1"));
     // One that is not answered yet can be left too, and nobody answers it then.
     m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=60000\n");
     send(directory("NEW_CALL", "2"));
     ToCMSocket::sendUI2CMSvcHangup();
-    QTRY_COMPARE(m_call->states.mid(4), (QStringList{"DIALING 2", "IDLE 2"}));
+    QTRY_COMPARE(m_app->heard.mid(4), (QStringList{"DIALING 2", "IDLE 2"}));
 }
 
 void CmTest::anotherCallIsRefused()
@@ -161,7 +87,7 @@ void CmTest::anotherCallIsRefused()
     send(directory("NEW_CALL", "1"));
     send(directory("NEW_CALL", "2"));
     QVERIFY(logs("A call was refused: another is under way"));
-    QTRY_COMPARE(m_call->states, (QStringList{"DIALING 1", "ALERT 1", "CONNECT 1"}));
+    QTRY_COMPARE(m_app->heard, (QStringList{"DIALING 1", "ALERT 1", "CONNECT 1"}));
 }
 
 void CmTest::conferenceAndTransfer()
@@ -169,21 +95,21 @@ void CmTest::conferenceAndTransfer()
     send(directory("COA_CONF", "3"));
     QVERIFY(logs("there is no conversation"));
     send(dialer("NORMAL", "1", "Ann"));
-    QTRY_COMPARE(m_call->states.size(), 3);
+    QTRY_COMPARE(m_app->heard.size(), 3);
     send(directory("COA_CONF", "3"));
-    QTRY_COMPARE(m_call->states.value(3), QString("CONNECT 1 Ann, 3"));
+    QTRY_COMPARE(m_app->heard.value(3), QString("CONNECT 1 Ann, 3"));
     send(directory("SEMI_BLIND_XFER", "4"));
-    QTRY_COMPARE(m_call->states.value(4), QString("IDLE 1 Ann, 3"));
+    QTRY_COMPARE(m_app->heard.value(4), QString("IDLE 1 Ann, 3"));
 }
 
 void CmTest::namesInTheCharsetOfThePhone()
 {
-    m_manager->kill();
-    m_manager->waitForFinished();
+    m_peer->kill();
+    m_peer->waitForFinished();
     m_phone->writeFile("config/system.conf", "[System]\nCharset=euc-kr\n");
-    QVERIFY(startManager());
+    QVERIFY(startPeer("cm"));
     send(dialer("NORMAL", "1", "\xb1\xe8")); // 김
-    QTRY_COMPARE(m_call->states.value(0), QString("DIALING 1 김"));
+    QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 1 김"));
 }
 
 void CmTest::whatIsNoRequest_data()
@@ -198,7 +124,7 @@ void CmTest::whatIsNoRequest_data()
     QTest::newRow("longer than the wire allows")
         << directory("NEW_CALL", QByteArray(5000, '1')) << QByteArray("it is no message");
     QTest::newRow("for another") << QByteArray(good).replace("CM/UI", "XCID/UI")
-                                 << QByteArray("it is not for the call manager");
+                                 << QByteArray("it is for another process");
     QTest::newRow("another signature") << message_MakeFromValues(
         {"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}})
                                        << QByteArray("there is no such request");
@@ -216,7 +142,7 @@ void CmTest::whatIsNoRequest()
     QVERIFY(logs("A datagram was dropped: " + fault));
     // It still serves, and nothing came of the other.
     send(directory("NEW_CALL", "7"));
-    QTRY_COMPARE(m_call->states.value(0), QString("DIALING 7"));
+    QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 7"));
 }
 
 void CmTest::aPortThatIsTaken()

@@ -11,6 +11,7 @@ class IdleTest : public NeighbourTest<Idle>
 
 private slots:
     void launchesTheApplications();
+    void aDirectoryIsBehindTheOthers();
     void okCallsTheFavourite();
     void theFavouriteFollowsItsContact_data();
     void theFavouriteFollowsItsContact();
@@ -48,6 +49,26 @@ void IdleTest::launchesTheApplications()
     click(Qt::Key_Context3);
     QCOMPARE(launched.mid(4), QStringList({"call", "message"}));
     QVERIFY(m_app->isVisible());
+}
+
+void IdleTest::aDirectoryIsBehindTheOthers()
+{
+    QStringList launched;
+    m_phone->core.setLauncher([&](const QString &name, void *) { launched.append(name); });
+    m_phone->writeFile("config/phone_info.conf", "[Directory_svc]\nAddr=server\n");
+    QVERIFY(open());
+    QCOMPARE(softKeys(m_app.get()), QStringList({"Contacts", "History", "Messages", ">"}));
+    click(Qt::Key_Context4);
+    QCOMPARE(softKeys(m_app.get()), QStringList({"Directory", "Keys", "", ">"}));
+    TestScreen::shot("idle-further");
+    click(Qt::Key_Context1);
+    m_phone->core.setVisibleContact(true);
+    click(Qt::Key_Context1); // contacts that show already would end
+    QCOMPARE(launched, QStringList("contact"));
+    QCOMPARE(sent(), QStringList({"contact viewContactSearchDir(str) ", "contact viewContactSearchDir(str) "}));
+    click(Qt::Key_Context4);
+    QCOMPARE(softKeys(m_app.get()).last(), QString(">"));
+    QCOMPARE(softKeys(m_app.get()).first(), QString("Contacts"));
 }
 
 void IdleTest::okCallsTheFavourite()

@@ -23,6 +23,7 @@ private slots:
     void aMissingProgram();
 };
 
+/// The call manager is the first of them.
 static pid_t managerOf(const Peers &peers)
 {
     return static_cast<pid_t>(peers.findChild<PeerProcess *>()->processId());
@@ -37,12 +38,12 @@ void PeersTest::startsThemAndEndsThem()
         QCOMPARE(getPeerPort("CM"), quint16(0));
         peers.start();
         // Nobody has to wait for it any more.
-        QVERIFY(getPeerPort("CM") != 0);
+        QVERIFY(getPeerPort("CM") != 0 && getPeerPort("XCID") != 0);
         manager = managerOf(peers);
         QVERIFY(manager > 0 && ::kill(manager, 0) == 0);
     }
     QVERIFY(::kill(manager, 0) != 0);
-    QCOMPARE(getPeerPort("CM"), quint16(0));
+    QCOMPARE(getPeerPort("CM") + getPeerPort("XCID"), 0);
 }
 
 void PeersTest::oneThatDiesIsStartedAgain()
@@ -66,6 +67,7 @@ void PeersTest::oneThatKeepsDyingIsGivenUp()
     TestPhone phone;
     phone.writeFile("cm", "#!/bin/sh\necho 4242\necho 'warning: no line' >&2\nexit 3\n");
     QFile::setPermissions(phone.home.path("cm"), QFile::ReadOwner | QFile::ExeOwner);
+    QFile::link(PHONE_PROGRAMS "/xcid", phone.home.path("xcid"));
     Peers peers(phone.home, phone.home.root());
     QSignalSpy gone(&peers, &Peers::gone);
     for (int life = 0; life < 6; ++life) {
@@ -82,8 +84,10 @@ void PeersTest::aMissingProgram()
     Peers peers(phone.home, phone.home.root());
     expectWarning("cm cannot be started");
     expectWarning("cm gives no port");
+    expectWarning("xcid cannot be started");
+    expectWarning("xcid gives no port");
     peers.start();
-    QCOMPARE(getPeerPort("CM"), quint16(0));
+    QCOMPARE(getPeerPort("CM") + getPeerPort("XCID"), 0);
 }
 
 PHONE_TEST_MAIN(PeersTest)

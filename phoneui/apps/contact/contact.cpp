@@ -12,6 +12,7 @@
 #include "pluginverification.h"
 #include "screenwatch.h"
 #include "searchall.h"
+#include "searchdir.h"
 #include "status.h"
 #include "systemphonebooklistwidget.h"
 #include "tail.h"
@@ -74,6 +75,7 @@ void Contact::closeChildren()
     closeScreen(m_searchAll);
     closeScreen(m_searchAllOther);
     closeScreen(m_numberEdit);
+    closeScreen(m_searchDir);
 }
 
 void Contact::end()

@@ -19,6 +19,7 @@ class NumberEdit;
 class QDataStream;
 class QLabel;
 class SearchAll;
+class SearchDir;
 class SystemPhonebookListWidget;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
@@ -129,9 +130,11 @@ private:
     void searchForCaller(int mode, const QString &number);
     void handleNewContact(QDataStream &payload);
     void handleViewContactSearchAll(QDataStream &payload);
+    void handleViewContactSearchDir(QDataStream &payload);
     void handleViewContact(QDataStream &payload);
     void handleFindReceiver(QDataStream &payload);
     void handleSearchContact(QDataStream &payload);
+    void handleDirectoryResponse(QDataStream &payload);
     void handleChangedLanguage(QDataStream &payload);
     void handlePhoneInit(QDataStream &payload);
     void handleContactChanged(QDataStream &payload);
@@ -157,6 +160,7 @@ private:
     QPointer<GroupList> m_groupList;
     QPointer<SearchAll> m_searchAll;
     QPointer<SearchAll> m_searchAllOther; ///< a second place for one, closed with the others
+    QPointer<SearchDir> m_searchDir;
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
     MergedContacts m_allContactList;
     ListView *m_selectListView = nullptr;

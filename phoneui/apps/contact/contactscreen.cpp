@@ -12,6 +12,7 @@
 #include "numberedit.h"
 #include "screenwatch.h"
 #include "searchall.h"
+#include "searchdir.h"
 #include "status.h"
 #include "systemphonebook.h"
 #include "systemphonebooklistwidget.h"
@@ -45,9 +46,8 @@ void Contact::setupStatus()
 void Contact::setStatusTitle(int idx)
 {
     const auto shows = [](const QWidget *child) { return child && child->isVisible(); };
-    const bool childHasTitle
-        = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList) || shows(m_searchAll)
-        || shows(m_systemPhonebookList);
+    const bool childHasTitle = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList)
+        || shows(m_searchAll) || shows(m_searchDir) || shows(m_systemPhonebookList);
     if (!isVisible() || !status || childHasTitle)
         return;
     const QString title = QString("%1 | %2 (%3/%4)").arg(tr("Contacts"), tr("All")).arg(idx + 1).arg(m_totalCount);

@@ -4,6 +4,8 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <array>
@@ -64,6 +66,12 @@ PhoneHome PhoneHome::locate(const QString &option)
 QString PhoneHome::path(const QString &relative) const
 {
     return m_root + QLatin1Char('/') + relative;
+}
+
+bool PhoneHome::isAnswerName(const QString &name)
+{
+    static const QRegularExpression answer(QStringLiteral("\\Adirectory-[A-Za-z]{6}\\.xml\\z"));
+    return answer.match(name).hasMatch();
 }
 
 bool PhoneHome::create() const

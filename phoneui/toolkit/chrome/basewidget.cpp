@@ -8,6 +8,9 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSettings>
+#include <QThread>
+#include <QTimer>
 
 namespace {
 
@@ -17,7 +20,8 @@ constexpr int LockingSystemType = 1;
 
 }
 
-BaseWidget::BaseWidget(QWidget *parent) : QDialog(parent, Qt::FramelessWindowHint)
+BaseWidget::BaseWidget(QWidget *parent)
+    : QDialog(parent, Qt::FramelessWindowHint), m_loopLevel(QThread::currentThread()->loopLevel())
 {
     setGeometry(ScreenGeometry);
     status = theCore->statusWidget();
@@ -35,6 +39,19 @@ void BaseWidget::bringUp()
     // Of modal windows the one shown last takes the keys; raising alone would leave it blocked.
     hide();
     show();
+}
+
+void BaseWidget::retire()
+{
+    static constexpr int Pause = 20; // ms
+
+    close();
+    auto *timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this] {
+        if (QThread::currentThread()->loopLevel() <= m_loopLevel)
+            deleteLater();
+    });
+    timer->start(Pause);
 }
 
 void BaseWidget::updateStatus()

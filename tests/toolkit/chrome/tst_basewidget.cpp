@@ -42,6 +42,7 @@ private slots:
     void otherKeysKeepTheirAcceptState();
     void theTitleComesBack();
     void execReturnsWhenClosedFromOutside();
+    void aRetiredScreenOutlivesLoopsOfItsHandlers();
     void locksShowAsTheSettingsSay_data();
     void locksShowAsTheSettingsSay();
 
@@ -105,6 +106,18 @@ void BaseWidgetTest::execReturnsWhenClosedFromOutside()
     Screen screen("One");
     QTimer::singleShot(0, &screen, [&screen] { screen.close(); });
     QCOMPARE(screen.exec(), int(QDialog::Rejected));
+}
+
+void BaseWidgetTest::aRetiredScreenOutlivesLoopsOfItsHandlers()
+{
+    const QPointer<Screen> screen = new Screen("One");
+    QVERIFY(showAndActivate(screen));
+    QEventLoop handler;
+    QTimer::singleShot(0, screen, [screen] { screen->retire(); });
+    QTimer::singleShot(100, &handler, &QEventLoop::quit);
+    handler.exec();
+    QVERIFY(screen && !screen->isVisible());
+    QTRY_VERIFY(!screen);
 }
 
 void BaseWidgetTest::locksShowAsTheSettingsSay_data()
