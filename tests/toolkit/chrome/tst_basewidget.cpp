@@ -1,140 +1,99 @@
-#include "basewidget.h"
-#include "phonekeys.h"
-#include "testcase.h"
-#include "testmain.h"
-#include "testphone.h"
+#include "screentest.h"
 
 #include <QKeyEvent>
 #include <QSettings>
 
-#include <memory>
-
 using namespace PhoneKeys;
 
-class Screen : public BaseWidget
+struct Locks
 {
-public:
-    explicit Screen(const QString &title) : BaseWidget(nullptr), m_title(title) { setFocusPolicy(Qt::StrongFocus); }
-    int closes = 0;
-
-protected:
-    void setupStatus() override { status->setTitle(m_title); }
-    void closeEvent(QCloseEvent *event) override
-    {
-        ++closes;
-        BaseWidget::closeEvent(event);
-    }
-
-private:
-    QString m_title;
+    int systemType;
+    bool menuPassword;
+    int callLock;
+    int changes;
 };
+Q_DECLARE_METATYPE(Locks)
 
-class BaseWidgetTest : public TestCase
+class BaseWidgetTest : public ScreenTest
 {
     Q_OBJECT
 
-    void setUp() override { m_phone.reset(new TestPhone); }
-    void tearDown() override { m_phone.reset(); }
-
 private slots:
     void fillsTheDisplayBelowTheStatusBar();
-    void escapeClosesOnceAtTheRelease();
+    void escapeClosesAtTheReleaseAndTheTitleComesBack();
     void otherKeysKeepTheirAcceptState();
-    void theTitleComesBack();
-    void execReturnsWhenClosedFromOutside();
+    void closedFromOutsideItTakesItsBoxesAlong();
     void locksShowAsTheSettingsSay_data();
     void locksShowAsTheSettingsSay();
-
-private:
-    std::unique_ptr<TestPhone> m_phone;
 };
 
 void BaseWidgetTest::fillsTheDisplayBelowTheStatusBar()
 {
-    Screen screen("One");
-    QVERIFY(showAndActivate(&screen));
-    QCOMPARE(screen.geometry(), QRect(0, 26, 384, 134));
-    screen.setBgColor(Qt::yellow);
+    const QColor yellow(Qt::yellow);
+    m_screen->setBgColor(yellow);
     const QImage picture = TestScreen::picture();
-    QCOMPARE(picture.pixelColor(0, 26), QColor(Qt::yellow));
-    QCOMPARE(picture.pixelColor(383, 159), QColor(Qt::yellow));
-    QVERIFY(picture.pixelColor(383, 25) != QColor(Qt::yellow));
+    QCOMPARE(picture.pixelColor(0, 26), yellow);
+    QCOMPARE(picture.pixelColor(383, 159), yellow);
+    QVERIFY(picture.pixelColor(383, 25) != yellow);
 }
 
-void BaseWidgetTest::escapeClosesOnceAtTheRelease()
+void BaseWidgetTest::escapeClosesAtTheReleaseAndTheTitleComesBack()
 {
-    Screen screen("One");
-    QVERIFY(showAndActivate(&screen));
+    KeyScreen above("Above");
+    QVERIFY(showAndActivate(&above));
+    QCOMPARE(m_phone->status.title(), QString("Above"));
     press(Qt::Key_Escape);
-    QVERIFY(screen.isVisible());
+    QVERIFY(above.isVisible());
     release(Qt::Key_Escape);
-    QVERIFY(!screen.isVisible());
-    QCOMPARE(screen.closes, 1);
+    QVERIFY(!above.isVisible());
+    QTRY_COMPARE(m_phone->status.title(), QString("Screen"));
+    QVERIFY(m_screen->isVisible() && m_screen->list->hasFocus());
 }
 
 void BaseWidgetTest::otherKeysKeepTheirAcceptState()
 {
-    Screen screen("One");
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         for (const bool accepted : {false, true}) {
             QKeyEvent event(type, Qt::Key_5, Qt::NoModifier);
             event.setAccepted(accepted);
-            QCoreApplication::sendEvent(&screen, &event);
+            QCoreApplication::sendEvent(m_screen.get(), &event);
             QCOMPARE(event.isAccepted(), accepted);
         }
     }
 }
 
-void BaseWidgetTest::theTitleComesBack()
+void BaseWidgetTest::closedFromOutsideItTakesItsBoxesAlong()
 {
-    Screen below("Below");
-    QVERIFY(showAndActivate(&below));
-    QCOMPARE(m_phone->status.title(), QString("Below"));
-    {
-        Screen above("Above");
-        QVERIFY(showAndActivate(&above));
-        QCOMPARE(m_phone->status.title(), QString("Above"));
-        click(Qt::Key_Escape);
-    }
-    QTRY_COMPARE(m_phone->status.title(), QString("Below"));
-    QVERIFY(below.hasFocus());
-}
-
-void BaseWidgetTest::execReturnsWhenClosedFromOutside()
-{
-    Screen screen("One");
-    QTimer::singleShot(0, &screen, [&screen] { screen.close(); });
-    QCOMPARE(screen.exec(), int(QDialog::Rejected));
+    KeyScreen screen;
+    int answer = StillOpen;
+    const int result = runBox(screen, [&] {
+        QDialog question(&screen);
+        answer = runBox(question, [&] { screen.close(); });
+    });
+    QCOMPARE(answer, int(QDialog::Rejected));
+    QCOMPARE(result, int(QDialog::Rejected));
 }
 
 void BaseWidgetTest::locksShowAsTheSettingsSay_data()
 {
-    QTest::addColumn<int>("systemType");
-    QTest::addColumn<bool>("menuPassword");
-    QTest::addColumn<int>("callLock");
-    QTest::addColumn<int>("changes");
-    QTest::newRow("nothing locked") << 1 << false << 0 << 0;
-    QTest::newRow("menu") << 1 << true << 0 << 1;
-    QTest::newRow("menu and calls") << 1 << true << 2 << 2;
-    QTest::newRow("a system without call lock") << 2 << false << 1 << 0;
+    addCases<Locks>({{"nothing locked", {1, false, 0, 0}},
+                     {"menu", {1, true, 0, 1}},
+                     {"menu and calls", {1, true, 2, 2}},
+                     {"a system without call lock", {2, false, 1, 0}}});
 }
 
 void BaseWidgetTest::locksShowAsTheSettingsSay()
 {
-    QFETCH(int, systemType);
-    QFETCH(bool, menuPassword);
-    QFETCH(int, callLock);
+    QFETCH(Locks, c);
     {
         QSettings system(m_phone->core.configFileName(SystemConfig), QSettings::IniFormat);
-        system.setValue("System/Type", systemType);
-        system.setValue("Menu_Password/enable", menuPassword);
-        system.setValue("Security/CallLock", callLock);
+        system.setValue("System/Type", c.systemType);
+        system.setValue("Menu_Password/enable", c.menuPassword);
+        system.setValue("Security/CallLock", c.callLock);
     }
-    int changes = 0;
-    connect(&m_phone->status, &Status::statusInfoChanged, this, [&] { ++changes; });
-    Screen screen("One");
-    screen.updateStatus();
-    QTEST(changes, "changes");
+    QSignalSpy changes(&m_phone->status, &Status::statusInfoChanged);
+    m_screen->updateStatus();
+    QCOMPARE(changes.size(), c.changes);
 }
 
 PHONE_TEST_MAIN(BaseWidgetTest)
