@@ -1,19 +1,12 @@
 #include "listwindow.h"
-#include "testcase.h"
-#include "testmain.h"
 
-#include "core.h"
 #include "listviewcheckitem.h"
 #include "listviewchecklineedititem.h"
 #include "listviewlineedititem.h"
 #include "listviewtimeedititem.h"
 
 #include <QLineEdit>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QValidator>
-
-namespace {
 
 /// A number row as the edit form has it.
 class NumberRow : public ListViewLineEditItem
@@ -23,139 +16,133 @@ public:
     int type() override { return 17; }
 };
 
-}
+struct Place
+{
+    ListViewItem *(*make)();
+    int margin, left, right;
+};
+Q_DECLARE_METATYPE(Place)
 
 /// The line edits that float over rows of text and time.
-class TestListOverlay : public TestCase
+class TestListOverlay : public PhoneTest
 {
     Q_OBJECT
 
+    void setUp() override
+    {
+        PhoneTest::setUp();
+        m_window.reset(new ListWindow<>);
+        m_list = m_window->list;
+    }
+    void tearDown() override
+    {
+        m_window.reset();
+        PhoneTest::tearDown();
+    }
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase() { m_core.reset(); }
     void standsOverTheField_data();
     void standsOverTheField();
     void followsTheSelection();
     void takesTheRowsSettings();
     void handsTextOver();
     void endsCompositionOfLongText();
-    void passesEnterOn_data();
-    void passesEnterOn();
-    void clicksSideways();
+    void passesEnterAndArrowsOn();
     void goesWithItsRow();
     void survivesRebuilding();
-    void writesPicture();
+    void pictures();
 
 private:
-    static QLineEdit *shownEdit(const QWidget *list);
+    /// The line edit that shows, once it has the focus.
+    QLineEdit *focusedEdit() const
+    {
+        QTest::qWait(10);
+        const auto edits = m_list->findChildren<QLineEdit *>("ListView::QLineEdit");
+        for (QLineEdit *edit : edits) {
+            if (edit->isVisible())
+                return edit->hasFocus() ? edit : nullptr;
+        }
+        return nullptr;
+    }
+    QString shownText() const { return focusedEdit() ? focusedEdit()->text() : QString(); }
 
-    QTemporaryDir m_home;
-    QScopedPointer<Core> m_core;
+    std::unique_ptr<ListWindow<>> m_window;
+    ListView *m_list = nullptr;
 };
 
-void TestListOverlay::initTestCase()
+template <class Row> static ListViewItem *textRow()
 {
-    const PhoneHome home(m_home.path());
-    QVERIFY(home.create());
-    m_core.reset(new Core(home));
+    return new Row("Title", "text");
 }
 
-QLineEdit *TestListOverlay::shownEdit(const QWidget *list)
+template <bool titled> static ListViewItem *checkRow()
 {
-    const auto edits = list->findChildren<QLineEdit *>("ListView::QLineEdit");
-    for (QLineEdit *edit : edits) {
-        if (edit->isVisible())
-            return edit;
-    }
-    return nullptr;
+    auto *row = new ListViewCheckLineEditItem("Title", true, titled, "text");
+    row->setUseEditText(true);
+    return row;
+}
+
+template <bool halfOfDay> static ListViewItem *timeRow()
+{
+    auto *row = new ListViewTimeEditItem("Title", "12:34", "AM");
+    row->setUse_ampmSelection(halfOfDay);
+    return row;
 }
 
 void TestListOverlay::standsOverTheField_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<int>("margin");
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("right");
     // Rows reach from 0 to 374.
-    QTest::newRow("text") << "text" << 0 << 193 << 368;
-    QTest::newRow("text with margin") << "text" << 20 << 213 << 368;
-    QTest::newRow("number") << "number" << 20 << 218 << 369;
-    QTest::newRow("check, title") << "titled" << 20 << 214 << 359;
-    QTest::newRow("check, no title") << "check" << 20 << 194 << 359;
-    QTest::newRow("check, no margin") << "check" << 0 << 194 << 359;
-    QTest::newRow("time") << "time" << 0 << 193 << 280;
-    QTest::newRow("time alone") << "24h" << 0 << 289 << 370;
+    addCases<Place>({{"text", {textRow<ListViewLineEditItem>, 0, 193, 368}},
+                     {"text with margin", {textRow<ListViewLineEditItem>, 20, 213, 368}},
+                     {"number", {textRow<NumberRow>, 20, 218, 369}},
+                     {"check, title", {checkRow<true>, 20, 214, 359}},
+                     {"check, no title", {checkRow<false>, 20, 194, 359}},
+                     {"check, wide", {checkRow<false>, -150, 44, 359}},
+                     {"time", {timeRow<true>, 0, 193, 280}},
+                     {"time alone", {timeRow<false>, 0, 289, 370}}});
 }
 
 void TestListOverlay::standsOverTheField()
 {
-    QFETCH(QString, kind);
-    QFETCH(int, margin);
-    ListWindow window;
-    window.add(1);
-    ListViewItem *row = nullptr;
-    if (kind == "text") {
-        row = new ListViewLineEditItem("Title", "text");
-    } else if (kind == "number") {
-        row = new NumberRow("Title", "text");
-    } else if (kind == "time" || kind == "24h") {
-        auto *time = new ListViewTimeEditItem("Title", "12:34", "AM");
-        time->setUse_ampmSelection(kind == "time");
-        row = time;
-    } else {
-        auto *check = new ListViewCheckLineEditItem("Title", true, kind == "titled", "text");
-        check->setUseEditText(true);
-        row = check;
-    }
-    row->setEditTextLeftMargin(margin);
-    window.list->addItem(row);
-    window.list->setSelectedIdx(1);
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(shownEdit(window.list));
-    QFETCH(int, left);
-    QFETCH(int, right);
-    QCOMPARE(shownEdit(window.list)->geometry(), QRect(QPoint(left, 34 + 6), QPoint(right, 34 + 27)));
-    QTRY_VERIFY(shownEdit(window.list)->hasFocus());
+    QFETCH(Place, c);
+    m_window->add(1);
+    m_list->addItem(c.make())->setEditTextLeftMargin(c.margin);
+    m_list->setSelectedIdx(1);
+    QVERIFY(m_window->showNow());
+    QTRY_VERIFY(focusedEdit());
+    QCOMPARE(focusedEdit()->geometry(), QRect(QPoint(c.left, 34 + 6), QPoint(c.right, 34 + 27)));
 }
 
 void TestListOverlay::followsTheSelection()
 {
-    ListWindow window;
-    window.list->addItem(new ListViewLineEditItem("Name", "Anna"));
-    window.list->addItem(new ListViewTimeEditItem("At", "07:30", "AM"));
-    window.add(1);
     auto *plain = new ListViewCheckLineEditItem("Check", false, true, "x");
     plain->setUseEditText(false);
-    window.list->addItem(plain);
-    QVERIFY(!window.list->lineEdit());
-    QVERIFY(window.showNow());
-    QSignalSpy changes(window.list, &ListView::changeLineEditText);
+    m_window->add({new ListViewLineEditItem("Name", "Anna"), new ListViewTimeEditItem("At", "07:30", "AM"),
+                   new ListViewCheckItem("Plain", false), plain});
+    QVERIFY(!m_list->lineEdit());
+    QVERIFY(m_window->showNow());
+    QSignalSpy changes(m_list, &ListView::changeLineEditText);
 
-    QTRY_VERIFY(window.list->lineEdit() && window.list->lineEdit()->hasFocus());
-    QCOMPARE(window.list->lineEdit()->text(), QString("Anna"));
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_COMPARE(shownEdit(window.list) ? shownEdit(window.list)->text() : QString(), QString("07:30"));
-    QVERIFY(window.list->lineEdit()->isHidden());
-    QTRY_VERIFY(shownEdit(window.list)->hasFocus());
-    QCOMPARE(shownEdit(window.list)->inputMask(), QString("99:99"));
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_VERIFY(window.list->hasFocus());
-    QVERIFY(!shownEdit(window.list));
-    PhoneKeys::click(Qt::Key_Down);
-    QTest::qWait(5);
-    QVERIFY(!shownEdit(window.list) && window.list->hasFocus());
-
-    window.list->setSelectedIdx(0);
-    QTRY_VERIFY(window.list->lineEdit()->hasFocus());
-    window.list->setSelectedIdx(-1);
-    QTRY_VERIFY(window.list->hasFocus());
-    QVERIFY(!shownEdit(window.list));
+    QTRY_COMPARE(shownText(), QString("Anna"));
+    PhoneKeys::click(Down);
+    QTRY_COMPARE(shownText(), QString("07:30"));
+    QVERIFY(m_list->lineEdit()->isHidden());
+    QCOMPARE(focusedEdit()->inputMask(), QString("99:99"));
+    for (int row = 2; row < 4; ++row) {
+        PhoneKeys::click(Down);
+        QTRY_VERIFY(m_list->hasFocus());
+        QVERIFY(!focusedEdit());
+    }
+    m_list->setSelectedIdx(0);
+    QTRY_VERIFY(m_list->lineEdit()->hasFocus());
+    m_list->setSelectedIdx(-1);
+    QTRY_VERIFY(m_list->hasFocus());
+    QVERIFY(m_list->lineEdit()->isHidden());
     QVERIFY(changes.isEmpty());
 }
 
 void TestListOverlay::takesTheRowsSettings()
 {
-    ListWindow window;
     auto *secret = new ListViewLineEditItem("Secret", "abc");
     secret->setEchoPasswordMode(true);
     secret->setEditTextDisabled(true);
@@ -164,29 +151,23 @@ void TestListOverlay::takesTheRowsSettings()
     address->setIPValidate(true);
     auto *port = new ListViewLineEditItem("Port", "20000");
     port->setSipPortValidate(true);
-    auto *check = new ListViewCheckLineEditItem("Check", true, "free");
-    for (ListViewItem *row : {static_cast<ListViewItem *>(secret), static_cast<ListViewItem *>(address),
-                              static_cast<ListViewItem *>(port), static_cast<ListViewItem *>(check)})
-        window.list->addItem(row);
-    QVERIFY(window.showNow());
+    m_window->add({secret, address, port, new ListViewCheckLineEditItem("Check", true, "free")});
+    QVERIFY(m_window->showNow());
     const auto accepts = [&](const char *text) {
         QString copy = text;
         int at = 0;
-        return window.list->lineEdit()->validator()->validate(copy, at) == QValidator::Acceptable;
+        return m_list->lineEdit()->validator()->validate(copy, at) == QValidator::Acceptable;
     };
     const auto select = [&](int idx) {
-        window.list->setSelectedIdx(idx);
-        window.list->checkFocus();
+        m_list->setSelectedIdx(idx);
+        m_list->checkFocus();
     };
 
     select(0);
-    QLineEdit *edit = window.list->lineEdit();
+    const QLineEdit *edit = m_list->lineEdit();
     QCOMPARE(edit->echoMode(), QLineEdit::Password);
-    QVERIFY(edit->isReadOnly());
+    QVERIFY(edit->isReadOnly() && !edit->validator());
     QCOMPARE(edit->maxLength(), 4);
-    QVERIFY(!edit->validator());
-    QCOMPARE(edit->font().pointSize(), 20);
-
     select(1);
     QCOMPARE(edit->echoMode(), QLineEdit::Normal);
     QVERIFY(!edit->isReadOnly());
@@ -195,156 +176,118 @@ void TestListOverlay::takesTheRowsSettings()
     select(2);
     QVERIFY(accepts("10000") && accepts("65535") && !accepts("9999"));
     select(1);
-    QCOMPARE(window.list->findChildren<QValidator *>().size(), 1);
+    QCOMPARE(m_list->findChildren<QValidator *>().size(), 1);
     select(3);
     QVERIFY(!edit->validator());
-    QCOMPARE(edit, window.list->lineEdit());
+    QCOMPARE(edit, m_list->lineEdit());
 }
 
 void TestListOverlay::handsTextOver()
 {
-    ListWindow window;
     auto *name = new ListViewLineEditItem("Name", "A");
     auto *check = new ListViewCheckLineEditItem("Check", true, "B");
     auto *time = new ListViewTimeEditItem("At", "07:30", "AM");
-    window.list->addItem(name);
-    window.list->addItem(check);
-    window.list->addItem(time);
-    QVERIFY(window.showNow());
-    QSignalSpy texts(window.list, &ListView::textChanged);
-    QSignalSpy changes(window.list, &ListView::changeLineEditText);
-    QTRY_VERIFY(shownEdit(window.list));
-
-    QTest::keyClicks(shownEdit(window.list), "nn");
+    m_window->add({name, check, time});
+    QVERIFY(m_window->showNow());
+    QSignalSpy texts(m_list, &ListView::textChanged), changes(m_list, &ListView::changeLineEditText);
+    QTRY_COMPARE(shownText(), QString("A"));
+    QTest::keyClicks(focusedEdit(), "nn");
     QCOMPARE(name->editText(), QString("Ann"));
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_COMPARE(shownEdit(window.list)->text(), QString("B"));
-    QTest::keyClicks(shownEdit(window.list), "b");
+    PhoneKeys::click(Down);
+    QTRY_COMPARE(shownText(), QString("B"));
+    QTest::keyClicks(focusedEdit(), "b");
     QCOMPARE(check->editText(), QString("Bb"));
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_COMPARE(shownEdit(window.list)->text(), QString("07:30"));
-    QTest::keyClicks(shownEdit(window.list), "12");
+    PhoneKeys::click(Down);
+    QTRY_COMPARE(shownText(), QString("07:30"));
+    QTest::keyClicks(focusedEdit(), "12");
     QCOMPARE(time->getTime(), QString("12:30"));
     QCOMPARE(texts.count(), 5);
-    QCOMPARE(changes.count(), 5);
-    QCOMPARE(changes.at(1).at(0).toInt(), 0);
+    QCOMPARE(values(changes), (QList<int>{0, 0, 1, 2, 2}));
     QCOMPARE(changes.at(1).at(1).toString(), QString("Ann"));
-    QCOMPARE(changes.at(2).at(0).toInt(), 1);
 }
 
 void TestListOverlay::endsCompositionOfLongText()
 {
-    ListWindow window;
     auto *name = new ListViewLineEditItem("Name", "123");
     name->setMaxBytes(5);
     name->setMaxLength(30);
-    window.list->addItem(name);
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(window.list->lineEdit());
-    m_core->setIMEStatus(IMECapital, true);
+    m_list->addItem(name);
+    QVERIFY(m_window->showNow());
+    QTRY_VERIFY(focusedEdit());
+    m_phone->core.setIMEStatus(IMECapital, true);
     bool lostFocus = false;
-    const QWidget *list = window.list;
-    connect(qApp, &QApplication::focusChanged, window.list,
-            [&](QWidget *former, QWidget *) { lostFocus |= former == list; });
-    QSignalSpy changes(window.list, &ListView::changeLineEditText);
+    connect(qApp, &QApplication::focusChanged, m_list, [&](QWidget *former) { lostFocus |= former == m_list; });
+    QSignalSpy changes(m_list, &ListView::changeLineEditText);
 
-    QTest::keyClicks(window.list->lineEdit(), "45");
+    QTest::keyClicks(m_list->lineEdit(), "45");
     QVERIFY(!lostFocus);
-    window.list->lineEdit()->setText(QString::fromUtf8("김철수")); // nine bytes
+    m_list->lineEdit()->setText("김철수"); // nine bytes
     QVERIFY(lostFocus);
-    QVERIFY(window.list->lineEdit()->hasFocus());
-    QCOMPARE(m_core->getIMEStatus(), IMECapital);
+    QVERIFY(m_list->lineEdit()->hasFocus());
+    QCOMPARE(m_phone->core.getIMEStatus(), IMECapital);
     QCOMPARE(changes.last().at(1).toString(), name->editText());
 }
 
-void TestListOverlay::passesEnterOn_data()
+void TestListOverlay::passesEnterAndArrowsOn()
 {
-    QTest::addColumn<bool>("number");
-    QTest::newRow("a text field keeps Enter") << false;
-    QTest::newRow("a number field is clicked") << true;
-}
-
-void TestListOverlay::passesEnterOn()
-{
-    QFETCH(bool, number);
-    ListWindow window;
-    window.list->addItem(number ? new NumberRow("Number", "1") : new ListViewLineEditItem("Name", "A"));
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(shownEdit(window.list) && shownEdit(window.list)->hasFocus());
-    QSignalSpy clicks(window.list, &ListView::clicked);
-    PhoneKeys::click(Qt::Key_Return);
-    QCOMPARE(clicks.count(), number ? 1 : 0);
-}
-
-void TestListOverlay::clicksSideways()
-{
-    ListWindow window;
-    window.list->addItem(new NumberRow("Number", "1"));
-    QVERIFY(window.showNow());
-    QSignalSpy clicks(window.list, &ListView::clicked);
+    m_window->add({new ListViewLineEditItem("Name", "A"), new NumberRow("Number", "1")});
+    QVERIFY(m_window->showNow());
+    QSignalSpy clicks(m_list, &ListView::clicked);
+    QTRY_COMPARE(shownText(), QString("A"));
+    PhoneKeys::click(Enter);
+    QVERIFY2(clicks.isEmpty(), "a text field keeps Enter");
+    PhoneKeys::click(Down);
+    QTRY_COMPARE(shownText(), QString("1"));
+    PhoneKeys::click(Enter);
+    QCOMPARE(values(clicks), QList<int>{1});
     // The line edit keeps Left and Right for its cursor; the list acts when it has the focus itself.
-    QTest::sendKeyEvent(QTest::Press, window.list, Qt::Key_Right, QString(), Qt::NoModifier);
-    QCOMPARE(clicks.count(), 1);
+    QTest::sendKeyEvent(QTest::Press, m_list, Right, QString(), Qt::NoModifier);
+    QCOMPARE(values(clicks), (QList<int>{1, 1}));
 }
 
 void TestListOverlay::goesWithItsRow()
 {
-    ListWindow window;
-    window.add(1);
-    window.list->addItem(new ListViewLineEditItem("Name", "A"));
-    window.list->addItem(new ListViewLineEditItem("Memo", "B"));
-    window.add(1);
-    window.list->setSelectedIdx(1);
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(shownEdit(window.list));
-    window.list->removeItem(1);
-    QTRY_COMPARE(shownEdit(window.list)->text(), QString("B"));
-    window.list->removeItem(1);
-    QTRY_VERIFY(!shownEdit(window.list));
-    QVERIFY(window.list->hasFocus());
+    m_window->add(1);
+    m_window->add({new ListViewLineEditItem("Name", "A"), new ListViewLineEditItem("Memo", "B")});
+    m_window->add(1);
+    m_list->setSelectedIdx(1);
+    QVERIFY(m_window->showNow());
+    QTRY_COMPARE(shownText(), QString("A"));
+    m_list->removeItem(1);
+    QTRY_COMPARE(shownText(), QString("B"));
+    m_list->removeItem(1);
+    QTRY_VERIFY(m_list->hasFocus());
+    QVERIFY(m_list->lineEdit()->isHidden());
 }
 
 void TestListOverlay::survivesRebuilding()
 {
-    ListWindow window;
-    window.list->addItem(new ListViewLineEditItem("Name", "A"));
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(shownEdit(window.list));
-    connect(window.list, &ListView::textChanged, window.list, [&] {
-        window.list->itemClear();
-        window.add(2);
+    m_list->addItem(new ListViewLineEditItem("Name", "A"));
+    QVERIFY(m_window->showNow());
+    QTRY_VERIFY(focusedEdit());
+    connect(m_list, &ListView::textChanged, m_list, [&] {
+        m_list->itemClear();
+        m_window->add(2);
     });
-    QTest::keyClicks(shownEdit(window.list), "b");
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_VERIFY(!shownEdit(window.list));
-    window.list->itemClear();
-    window.list->setSelectedIdx(-1);
-    QTest::qWait(5);
-    QVERIFY(window.list->hasFocus());
+    QTest::keyClicks(focusedEdit(), "b");
+    PhoneKeys::click(Down);
+    QTRY_VERIFY(m_list->lineEdit()->isHidden());
+    m_list->itemClear();
+    m_list->setSelectedIdx(-1);
+    QTRY_VERIFY(m_list->hasFocus());
 }
 
-void TestListOverlay::writesPicture()
+void TestListOverlay::pictures()
 {
-    ListWindow window;
-    window.list->addItem(new ListViewLineEditItem("Name", "Jörg Ågren"));
-    window.list->addItem(new ListViewTimeEditItem("Alarm", "07:30", "AM"));
-    window.list->addItem(new ListViewCheckItem("Plain", true));
-    QVERIFY(window.showNow());
-    QTRY_VERIFY(shownEdit(window.list) && shownEdit(window.list)->hasFocus());
-    const QString folder = qEnvironmentVariable("PHONE_PICTURES");
-    const auto picture = [&](const char *name) {
-        const QImage image = window.grab().toImage();
-        if (!folder.isEmpty())
-            image.scaled(image.size() * 2).save(folder + "/" + name + ".png");
-        return image;
-    };
-    picture("overlay-text");
-    PhoneKeys::click(Qt::Key_Down);
-    QTRY_VERIFY(shownEdit(window.list) && shownEdit(window.list)->text() == "07:30");
-    QTest::qWait(10);
-    picture("overlay-time");
+    m_window->add({new ListViewLineEditItem("Name", "Jörg Ågren"), new ListViewTimeEditItem("Alarm", "07:30", "AM"),
+                   new ListViewCheckItem("Plain", true)});
+    QVERIFY(m_window->showNow());
+    for (const QString name : {"overlay-text", "overlay-time"}) {
+        QTRY_VERIFY(focusedEdit());
+        TestScreen::save(m_window->grab().toImage(), name);
+        PhoneKeys::click(Down);
+    }
 }
 
 PHONE_TEST_MAIN(TestListOverlay)
-
 #include "tst_listoverlay.moc"
