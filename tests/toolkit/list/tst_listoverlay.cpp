@@ -1,5 +1,6 @@
 #include "listwindow.h"
 
+#include "editfieldgeometry.h"
 #include "listviewcheckitem.h"
 #include "listviewchecklineedititem.h"
 #include "listviewlineedititem.h"
@@ -15,13 +16,6 @@ public:
     using ListViewLineEditItem::ListViewLineEditItem;
     int type() override { return 17; }
 };
-
-struct Place
-{
-    ListViewItem *(*make)();
-    int margin, left, right;
-};
-Q_DECLARE_METATYPE(Place)
 
 /// The line edits that float over rows of text and time.
 class TestListOverlay : public PhoneTest
@@ -41,16 +35,184 @@ class TestListOverlay : public PhoneTest
     }
 
 private slots:
-    void standsOverTheField_data();
-    void standsOverTheField();
-    void followsTheSelection();
-    void takesTheRowsSettings();
-    void handsTextOver();
-    void endsCompositionOfLongText();
-    void passesEnterAndArrowsOn();
-    void goesWithItsRow();
-    void survivesRebuilding();
-    void pictures();
+    void followsTheSelection()
+    {
+        auto *plain = new ListViewCheckLineEditItem("Check", false, true, "x");
+        plain->setUseEditText(false);
+        m_window->add({new ListViewLineEditItem("Name", "Anna"), new ListViewTimeEditItem("At", "07:30", "AM"),
+                       new ListViewCheckItem("Plain", false), plain});
+        m_list->item(0)->setEditTextLeftMargin(20);
+        const QRect row(0, 0, 367, 34); // beside the scroll bar
+        QVERIFY(!m_list->lineEdit());
+        QVERIFY(m_window->showNow());
+        QSignalSpy changes(m_list, &ListView::changeLineEditText);
+
+        QTRY_COMPARE(shownText(), QString("Anna"));
+        QCOMPARE(focusedEdit()->geometry(), EditFieldGeometry::lineEdit(row, 20));
+        PhoneKeys::click(Down);
+        QTRY_COMPARE(shownText(), QString("07:30"));
+        QCOMPARE(focusedEdit()->geometry(), EditFieldGeometry::timeEdit(row.translated(0, 34), true));
+        QCOMPARE(focusedEdit()->inputMask(), QString("99:99"));
+        for (int plainRow = 0; plainRow < 2; ++plainRow) {
+            PhoneKeys::click(Down);
+            QTRY_VERIFY(m_list->hasFocus());
+            QVERIFY(!focusedEdit());
+        }
+        m_list->setSelectedIdx(0);
+        QTRY_VERIFY(m_list->lineEdit()->hasFocus());
+        m_list->setSelectedIdx(-1);
+        QTRY_VERIFY(m_list->hasFocus());
+        QVERIFY(m_list->lineEdit()->isHidden());
+        QVERIFY(changes.isEmpty());
+    }
+
+    void takesTheRowsSettings()
+    {
+        auto *secret = new ListViewLineEditItem("Secret", "abc");
+        secret->setEchoPasswordMode(true);
+        secret->setEditTextDisabled(true);
+        secret->setMaxLength(4);
+        auto *address = new ListViewLineEditItem("Address", "10.0.0.1");
+        address->setIPValidate(true);
+        auto *port = new ListViewLineEditItem("Port", "20000");
+        port->setSipPortValidate(true);
+        m_window->add({secret, address, port, new ListViewCheckLineEditItem("Check", true, "free")});
+        QVERIFY(m_window->showNow());
+        const auto accepts = [&](const char *text) {
+            QString copy = text;
+            int at = 0;
+            return m_list->lineEdit()->validator()->validate(copy, at) == QValidator::Acceptable;
+        };
+        const auto select = [&](int idx) {
+            m_list->setSelectedIdx(idx);
+            m_list->checkFocus();
+        };
+
+        select(0);
+        const QLineEdit *edit = m_list->lineEdit();
+        QCOMPARE(edit->echoMode(), QLineEdit::Password);
+        QVERIFY(edit->isReadOnly() && !edit->validator());
+        QCOMPARE(edit->maxLength(), 4);
+        select(1);
+        QCOMPARE(edit->echoMode(), QLineEdit::Normal);
+        QVERIFY(!edit->isReadOnly());
+        QCOMPARE(edit->maxLength(), 4); // a row without a limit leaves the one before
+        QVERIFY(accepts("255.1.09.200") && !accepts("256.1.1.1") && !accepts("1.2.3"));
+        select(2);
+        QVERIFY(accepts("10000") && accepts("65535") && !accepts("9999"));
+        select(1);
+        QCOMPARE(m_list->findChildren<QValidator *>().size(), 1);
+        select(3);
+        QVERIFY(!edit->validator());
+    }
+
+    void handsTextOver()
+    {
+        auto *name = new ListViewLineEditItem("Name", "A");
+        auto *check = new ListViewCheckLineEditItem("Check", true, "B");
+        auto *time = new ListViewTimeEditItem("At", "07:30", "AM");
+        m_window->add({name, check, time});
+        QVERIFY(m_window->showNow());
+        QSignalSpy texts(m_list, &ListView::textChanged), changes(m_list, &ListView::changeLineEditText);
+        QTRY_COMPARE(shownText(), QString("A"));
+        QTest::keyClicks(focusedEdit(), "nn");
+        QCOMPARE(name->editText(), QString("Ann"));
+        PhoneKeys::click(Down);
+        QTRY_COMPARE(shownText(), QString("B"));
+        QTest::keyClicks(focusedEdit(), "b");
+        QCOMPARE(check->editText(), QString("Bb"));
+        PhoneKeys::click(Down);
+        QTRY_COMPARE(shownText(), QString("07:30"));
+        QTest::keyClicks(focusedEdit(), "12");
+        QCOMPARE(time->getTime(), QString("12:30"));
+        QCOMPARE(texts.count(), 5);
+        QCOMPARE(values(changes), (QList<int>{0, 0, 1, 2, 2}));
+        QCOMPARE(changes.at(1).at(1).toString(), QString("Ann"));
+    }
+
+    void endsCompositionOfLongText()
+    {
+        auto *name = new ListViewLineEditItem("Name", "123");
+        name->setMaxBytes(5);
+        name->setMaxLength(30);
+        m_list->addItem(name);
+        QVERIFY(m_window->showNow());
+        QTRY_VERIFY(focusedEdit());
+        m_phone->core.setIMEStatus(IMECapital, true);
+        bool lostFocus = false;
+        connect(qApp, &QApplication::focusChanged, m_list, [&](QWidget *former) { lostFocus |= former == m_list; });
+        QSignalSpy changes(m_list, &ListView::changeLineEditText);
+
+        QTest::keyClicks(m_list->lineEdit(), "45");
+        QVERIFY(!lostFocus);
+        m_list->lineEdit()->setText("김철수"); // nine bytes
+        QVERIFY(lostFocus);
+        QVERIFY(m_list->lineEdit()->hasFocus());
+        QCOMPARE(m_phone->core.getIMEStatus(), IMECapital);
+        QCOMPARE(changes.last().at(1).toString(), name->editText());
+    }
+
+    void passesEnterAndArrowsOn()
+    {
+        m_window->add({new ListViewLineEditItem("Name", "A"), new NumberRow("Number", "1")});
+        QVERIFY(m_window->showNow());
+        QSignalSpy clicks(m_list, &ListView::clicked);
+        QTRY_COMPARE(shownText(), QString("A"));
+        PhoneKeys::click(Enter);
+        QVERIFY2(clicks.isEmpty(), "a text field keeps Enter");
+        PhoneKeys::click(Down);
+        QTRY_COMPARE(shownText(), QString("1"));
+        QCOMPARE(focusedEdit()->geometry(), EditFieldGeometry::numberEdit(QRect(0, 34, 375, 34), 0));
+        PhoneKeys::click(Enter);
+        QCOMPARE(values(clicks), QList<int>{1});
+        // The line edit keeps Left and Right for its cursor; the list acts when it has the focus itself.
+        QTest::sendKeyEvent(QTest::Press, m_list, Right, QString(), Qt::NoModifier);
+        QCOMPARE(values(clicks), (QList<int>{1, 1}));
+    }
+
+    void goesWithItsRow()
+    {
+        m_window->add(1);
+        m_window->add({new ListViewLineEditItem("Name", "A"), new ListViewLineEditItem("Memo", "B")});
+        m_window->add(1);
+        m_list->setSelectedIdx(1);
+        QVERIFY(m_window->showNow());
+        QTRY_COMPARE(shownText(), QString("A"));
+        m_list->removeItem(1);
+        QTRY_COMPARE(shownText(), QString("B"));
+        m_list->removeItem(1);
+        QTRY_VERIFY(m_list->hasFocus());
+        QVERIFY(m_list->lineEdit()->isHidden());
+    }
+
+    void survivesRebuilding()
+    {
+        m_list->addItem(new ListViewLineEditItem("Name", "A"));
+        QVERIFY(m_window->showNow());
+        QTRY_VERIFY(focusedEdit());
+        connect(m_list, &ListView::textChanged, m_list, [&] {
+            m_list->itemClear();
+            m_window->add(2);
+        });
+        QTest::keyClicks(focusedEdit(), "b");
+        PhoneKeys::click(Down);
+        QTRY_VERIFY(m_list->lineEdit()->isHidden());
+        m_list->itemClear();
+        m_list->setSelectedIdx(-1);
+        QTRY_VERIFY(m_list->hasFocus());
+    }
+
+    void pictures()
+    {
+        m_window->add({new ListViewLineEditItem("Name", "Jörg Ågren"),
+                       new ListViewTimeEditItem("Alarm", "07:30", "AM"), new ListViewCheckItem("Plain", true)});
+        QVERIFY(m_window->showNow());
+        for (const QString name : {"overlay-text", "overlay-time"}) {
+            QTRY_VERIFY(focusedEdit());
+            TestScreen::save(m_window->grab().toImage(), name);
+            PhoneKeys::click(Down);
+        }
+    }
 
 private:
     /// The line edit that shows, once it has the focus.
@@ -69,225 +231,6 @@ private:
     std::unique_ptr<ListWindow<>> m_window;
     ListView *m_list = nullptr;
 };
-
-template <class Row> static ListViewItem *textRow()
-{
-    return new Row("Title", "text");
-}
-
-template <bool titled> static ListViewItem *checkRow()
-{
-    auto *row = new ListViewCheckLineEditItem("Title", true, titled, "text");
-    row->setUseEditText(true);
-    return row;
-}
-
-template <bool halfOfDay> static ListViewItem *timeRow()
-{
-    auto *row = new ListViewTimeEditItem("Title", "12:34", "AM");
-    row->setUse_ampmSelection(halfOfDay);
-    return row;
-}
-
-void TestListOverlay::standsOverTheField_data()
-{
-    // Rows reach from 0 to 374.
-    addCases<Place>({{"text", {textRow<ListViewLineEditItem>, 0, 193, 368}},
-                     {"text with margin", {textRow<ListViewLineEditItem>, 20, 213, 368}},
-                     {"number", {textRow<NumberRow>, 20, 218, 369}},
-                     {"check, title", {checkRow<true>, 20, 214, 359}},
-                     {"check, no title", {checkRow<false>, 20, 194, 359}},
-                     {"check, wide", {checkRow<false>, -150, 44, 359}},
-                     {"time", {timeRow<true>, 0, 193, 280}},
-                     {"time alone", {timeRow<false>, 0, 289, 370}}});
-}
-
-void TestListOverlay::standsOverTheField()
-{
-    QFETCH(Place, c);
-    m_window->add(1);
-    m_list->addItem(c.make())->setEditTextLeftMargin(c.margin);
-    m_list->setSelectedIdx(1);
-    QVERIFY(m_window->showNow());
-    QTRY_VERIFY(focusedEdit());
-    QCOMPARE(focusedEdit()->geometry(), QRect(QPoint(c.left, 34 + 6), QPoint(c.right, 34 + 27)));
-}
-
-void TestListOverlay::followsTheSelection()
-{
-    auto *plain = new ListViewCheckLineEditItem("Check", false, true, "x");
-    plain->setUseEditText(false);
-    m_window->add({new ListViewLineEditItem("Name", "Anna"), new ListViewTimeEditItem("At", "07:30", "AM"),
-                   new ListViewCheckItem("Plain", false), plain});
-    QVERIFY(!m_list->lineEdit());
-    QVERIFY(m_window->showNow());
-    QSignalSpy changes(m_list, &ListView::changeLineEditText);
-
-    QTRY_COMPARE(shownText(), QString("Anna"));
-    PhoneKeys::click(Down);
-    QTRY_COMPARE(shownText(), QString("07:30"));
-    QVERIFY(m_list->lineEdit()->isHidden());
-    QCOMPARE(focusedEdit()->inputMask(), QString("99:99"));
-    for (int row = 2; row < 4; ++row) {
-        PhoneKeys::click(Down);
-        QTRY_VERIFY(m_list->hasFocus());
-        QVERIFY(!focusedEdit());
-    }
-    m_list->setSelectedIdx(0);
-    QTRY_VERIFY(m_list->lineEdit()->hasFocus());
-    m_list->setSelectedIdx(-1);
-    QTRY_VERIFY(m_list->hasFocus());
-    QVERIFY(m_list->lineEdit()->isHidden());
-    QVERIFY(changes.isEmpty());
-}
-
-void TestListOverlay::takesTheRowsSettings()
-{
-    auto *secret = new ListViewLineEditItem("Secret", "abc");
-    secret->setEchoPasswordMode(true);
-    secret->setEditTextDisabled(true);
-    secret->setMaxLength(4);
-    auto *address = new ListViewLineEditItem("Address", "10.0.0.1");
-    address->setIPValidate(true);
-    auto *port = new ListViewLineEditItem("Port", "20000");
-    port->setSipPortValidate(true);
-    m_window->add({secret, address, port, new ListViewCheckLineEditItem("Check", true, "free")});
-    QVERIFY(m_window->showNow());
-    const auto accepts = [&](const char *text) {
-        QString copy = text;
-        int at = 0;
-        return m_list->lineEdit()->validator()->validate(copy, at) == QValidator::Acceptable;
-    };
-    const auto select = [&](int idx) {
-        m_list->setSelectedIdx(idx);
-        m_list->checkFocus();
-    };
-
-    select(0);
-    const QLineEdit *edit = m_list->lineEdit();
-    QCOMPARE(edit->echoMode(), QLineEdit::Password);
-    QVERIFY(edit->isReadOnly() && !edit->validator());
-    QCOMPARE(edit->maxLength(), 4);
-    select(1);
-    QCOMPARE(edit->echoMode(), QLineEdit::Normal);
-    QVERIFY(!edit->isReadOnly());
-    QCOMPARE(edit->maxLength(), 4); // a row without a limit leaves the one before
-    QVERIFY(accepts("255.1.09.200") && !accepts("256.1.1.1") && !accepts("1.2.3"));
-    select(2);
-    QVERIFY(accepts("10000") && accepts("65535") && !accepts("9999"));
-    select(1);
-    QCOMPARE(m_list->findChildren<QValidator *>().size(), 1);
-    select(3);
-    QVERIFY(!edit->validator());
-    QCOMPARE(edit, m_list->lineEdit());
-}
-
-void TestListOverlay::handsTextOver()
-{
-    auto *name = new ListViewLineEditItem("Name", "A");
-    auto *check = new ListViewCheckLineEditItem("Check", true, "B");
-    auto *time = new ListViewTimeEditItem("At", "07:30", "AM");
-    m_window->add({name, check, time});
-    QVERIFY(m_window->showNow());
-    QSignalSpy texts(m_list, &ListView::textChanged), changes(m_list, &ListView::changeLineEditText);
-    QTRY_COMPARE(shownText(), QString("A"));
-    QTest::keyClicks(focusedEdit(), "nn");
-    QCOMPARE(name->editText(), QString("Ann"));
-    PhoneKeys::click(Down);
-    QTRY_COMPARE(shownText(), QString("B"));
-    QTest::keyClicks(focusedEdit(), "b");
-    QCOMPARE(check->editText(), QString("Bb"));
-    PhoneKeys::click(Down);
-    QTRY_COMPARE(shownText(), QString("07:30"));
-    QTest::keyClicks(focusedEdit(), "12");
-    QCOMPARE(time->getTime(), QString("12:30"));
-    QCOMPARE(texts.count(), 5);
-    QCOMPARE(values(changes), (QList<int>{0, 0, 1, 2, 2}));
-    QCOMPARE(changes.at(1).at(1).toString(), QString("Ann"));
-}
-
-void TestListOverlay::endsCompositionOfLongText()
-{
-    auto *name = new ListViewLineEditItem("Name", "123");
-    name->setMaxBytes(5);
-    name->setMaxLength(30);
-    m_list->addItem(name);
-    QVERIFY(m_window->showNow());
-    QTRY_VERIFY(focusedEdit());
-    m_phone->core.setIMEStatus(IMECapital, true);
-    bool lostFocus = false;
-    connect(qApp, &QApplication::focusChanged, m_list, [&](QWidget *former) { lostFocus |= former == m_list; });
-    QSignalSpy changes(m_list, &ListView::changeLineEditText);
-
-    QTest::keyClicks(m_list->lineEdit(), "45");
-    QVERIFY(!lostFocus);
-    m_list->lineEdit()->setText("김철수"); // nine bytes
-    QVERIFY(lostFocus);
-    QVERIFY(m_list->lineEdit()->hasFocus());
-    QCOMPARE(m_phone->core.getIMEStatus(), IMECapital);
-    QCOMPARE(changes.last().at(1).toString(), name->editText());
-}
-
-void TestListOverlay::passesEnterAndArrowsOn()
-{
-    m_window->add({new ListViewLineEditItem("Name", "A"), new NumberRow("Number", "1")});
-    QVERIFY(m_window->showNow());
-    QSignalSpy clicks(m_list, &ListView::clicked);
-    QTRY_COMPARE(shownText(), QString("A"));
-    PhoneKeys::click(Enter);
-    QVERIFY2(clicks.isEmpty(), "a text field keeps Enter");
-    PhoneKeys::click(Down);
-    QTRY_COMPARE(shownText(), QString("1"));
-    PhoneKeys::click(Enter);
-    QCOMPARE(values(clicks), QList<int>{1});
-    // The line edit keeps Left and Right for its cursor; the list acts when it has the focus itself.
-    QTest::sendKeyEvent(QTest::Press, m_list, Right, QString(), Qt::NoModifier);
-    QCOMPARE(values(clicks), (QList<int>{1, 1}));
-}
-
-void TestListOverlay::goesWithItsRow()
-{
-    m_window->add(1);
-    m_window->add({new ListViewLineEditItem("Name", "A"), new ListViewLineEditItem("Memo", "B")});
-    m_window->add(1);
-    m_list->setSelectedIdx(1);
-    QVERIFY(m_window->showNow());
-    QTRY_COMPARE(shownText(), QString("A"));
-    m_list->removeItem(1);
-    QTRY_COMPARE(shownText(), QString("B"));
-    m_list->removeItem(1);
-    QTRY_VERIFY(m_list->hasFocus());
-    QVERIFY(m_list->lineEdit()->isHidden());
-}
-
-void TestListOverlay::survivesRebuilding()
-{
-    m_list->addItem(new ListViewLineEditItem("Name", "A"));
-    QVERIFY(m_window->showNow());
-    QTRY_VERIFY(focusedEdit());
-    connect(m_list, &ListView::textChanged, m_list, [&] {
-        m_list->itemClear();
-        m_window->add(2);
-    });
-    QTest::keyClicks(focusedEdit(), "b");
-    PhoneKeys::click(Down);
-    QTRY_VERIFY(m_list->lineEdit()->isHidden());
-    m_list->itemClear();
-    m_list->setSelectedIdx(-1);
-    QTRY_VERIFY(m_list->hasFocus());
-}
-
-void TestListOverlay::pictures()
-{
-    m_window->add({new ListViewLineEditItem("Name", "Jörg Ågren"), new ListViewTimeEditItem("Alarm", "07:30", "AM"),
-                   new ListViewCheckItem("Plain", true)});
-    QVERIFY(m_window->showNow());
-    for (const QString name : {"overlay-text", "overlay-time"}) {
-        QTRY_VERIFY(focusedEdit());
-        TestScreen::save(m_window->grab().toImage(), name);
-        PhoneKeys::click(Down);
-    }
-}
 
 PHONE_TEST_MAIN(TestListOverlay)
 #include "tst_listoverlay.moc"

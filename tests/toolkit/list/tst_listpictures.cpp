@@ -26,9 +26,89 @@ class TestListPictures : public TestCase
     Q_OBJECT
 
 private slots:
-    void lists_data();
-    void lists();
-    void grid();
+    void lists_data()
+    {
+        QTest::addColumn<Look>("c");
+        const auto look = [](const char *name, int rows, int selected, eListViewItemFocusType focusType,
+                             int scrollBar, bool pressed, const Pixels &pixels) {
+            QTest::newRow(name) << Look{rows, selected, focusType, scrollBar, pressed, pixels};
+        };
+        // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
+        // dotted. The frame stands over the separator.
+        const auto floating = ListViewFocusFloating;
+        look("list-thin", 8, 0, floating, 0, false,
+             {{White, "369,60 200,0 200,33 2,67 367,67 3,101"},
+              {Grey, "370,60 373,60 0,67 1,67 366,67"},
+              {Dark, "370,5 373,5"},
+              {Black, "6,0 6,32"}});
+        look("list-clear", 8, 4, floating, 1, false, {{White, "368,50 373,50 370,10"}, {Dark, "369,50 372,50"}});
+        look("list-boxed", 8, 7, floating, 2, false,
+             {{Dark, "368,10 373,10 370,90 372,90"}, {White, "369,10 372,10 369,90"}});
+        look("list-pressed", 8, 1, floating, 0, true, {{Black, "200,33 200,70 366,50"}, {White, "200,71 367,50"}});
+        look("list-last", 3, 2, floating, 0, false, {{Black, "6,67 6,101 373,95"}, {Grey, "2,33"}});
+        look("list-pressed-last", 3, 2, floating, 0, true, {{Black, "200,103"}, {White, "200,66"}});
+        look("list-two", 2, 1, floating, 0, false, {{Black, "6,66"}, {White, "0,71"}});
+        look("list-bar", 8, 1, ListViewFocusBar, 0, false,
+             {{Black, "0,34 366,50"}, {White, "200,32 2,67"}, {Grey, "0,67"}});
+        look("list-flat", 3, 1, ListViewFocusFlat, 0, false, {{White, "0,34 200,50"}, {Grey, "0,67"}});
+        look("list-empty", 0, 0, floating, 0, false, {{White, "0,33"}});
+    }
+
+    void lists()
+    {
+        QFETCH(Look, c);
+        ListWindow window;
+        window.add(c.rows);
+        window.list->setFocusType(c.focusType);
+        for (int i = 0; i < c.rows; ++i)
+            window.list->item(i)->setFocusType(c.focusType);
+        if (c.rows > 0)
+            window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
+        window.list->setShowEmptyString(true);
+        window.list->setSelectedIdx(c.selected);
+        window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(c.scrollBar));
+        QVERIFY(window.showNow());
+        window.list->setStartIdx(c.selected > 2 ? c.selected / 3 * 3 : 0);
+        if (c.pressed)
+            PhoneKeys::press(Enter);
+        check(picture(window, QTest::currentDataTag()), c.pixels);
+    }
+
+    void grid()
+    {
+        ListWindow<TwoColumnListView> window;
+        for (const char *name : {"Anna Schmidt", "Bernd Maier-Leibnitz", "Carla", "Dora", "Emil von Hohenstaufen"})
+            window.list->addItem(new ListViewContactGridItem(name, 1, 1));
+        QVERIFY(window.showNow());
+        // Dotted lines between the cells; the frame keeps to the part of the cell that the contact takes.
+        check(picture(window, "grid-first"),
+              {{Grey, "190,33 186,90"}, {White, "90,33 184,5 0,102"}, {Black, "183,5"}});
+        PhoneKeys::clickAll({Right, Down});
+        PhoneKeys::press(Enter);
+        check(picture(window, "grid-pressed"), {{Black, "373,50 190,50"}, {White, "189,50"}});
+        PhoneKeys::release(Enter);
+        window.list->setSelectedIdx(2);
+        picture(window, "grid-last-line");
+
+        window.list->setUseDotLines(false);
+        window.list->setUseDivideLines(true);
+        window.list->setUseTopLine(true);
+        window.list->setUseBottomLine(true);
+        window.list->setUseSideLine(true);
+        window.list->setShowIndex(true);
+        window.list->setGridSize(2, 3);
+        window.list->setRowGap(4);
+        window.list->setColGap(4);
+        window.list->itemClear();
+        const QPixmap icon(":/ui/images/widget/confirm.png"), small = icon.scaled(24, 24);
+        window.add({new GridListViewItem("Settings", icon, QPixmap()),
+                    new GridListViewMenuItem("Menu", small, QPixmap()),
+                    new GridListViewFunctionItem("Add", small, QPixmap()),
+                    new GridListViewItem("A long caption", QPixmap(), QPixmap())});
+        window.list->setSelectedIdx(2);
+        window.list->update();
+        picture(window, "grid-menu");
+    }
 
 private:
     /// The list in its window, which is saved.
@@ -50,89 +130,6 @@ private:
         }
     }
 };
-
-void TestListPictures::lists_data()
-{
-    QTest::addColumn<Look>("c");
-    const auto look = [](const char *name, int rows, int selected, eListViewItemFocusType focusType, int scrollBar,
-                         bool pressed, const Pixels &pixels) {
-        QTest::newRow(name) << Look{rows, selected, focusType, scrollBar, pressed, pixels};
-    };
-    // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
-    // dotted. The frame stands over the separator.
-    const auto floating = ListViewFocusFloating;
-    look("list-thin", 8, 0, floating, 0, false,
-         {{White, "369,60 200,0 200,33 2,67 367,67 3,101"},
-          {Grey, "370,60 373,60 0,67 1,67 366,67"},
-          {Dark, "370,5 373,5"},
-          {Black, "6,0 6,32"}});
-    look("list-clear", 8, 4, floating, 1, false, {{White, "368,50 373,50 370,10"}, {Dark, "369,50 372,50"}});
-    look("list-boxed", 8, 7, floating, 2, false,
-         {{Dark, "368,10 373,10 370,90 372,90"}, {White, "369,10 372,10 369,90"}});
-    look("list-pressed", 8, 1, floating, 0, true, {{Black, "200,33 200,70 366,50"}, {White, "200,71 367,50"}});
-    look("list-last", 3, 2, floating, 0, false, {{Black, "6,67 6,101 373,95"}, {Grey, "2,33"}});
-    look("list-pressed-last", 3, 2, floating, 0, true, {{Black, "200,103"}, {White, "200,66"}});
-    look("list-two", 2, 1, floating, 0, false, {{Black, "6,66"}, {White, "0,71"}});
-    look("list-bar", 8, 1, ListViewFocusBar, 0, false,
-         {{Black, "0,34 366,50"}, {White, "200,32 2,67"}, {Grey, "0,67"}});
-    look("list-flat", 3, 1, ListViewFocusFlat, 0, false, {{White, "0,34 200,50"}, {Grey, "0,67"}});
-    look("list-empty", 0, 0, floating, 0, false, {{White, "0,33"}});
-}
-
-void TestListPictures::lists()
-{
-    QFETCH(Look, c);
-    ListWindow window;
-    window.add(c.rows);
-    window.list->setFocusType(c.focusType);
-    for (int i = 0; i < c.rows; ++i)
-        window.list->item(i)->setFocusType(c.focusType);
-    if (c.rows > 0)
-        window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
-    window.list->setShowEmptyString(true);
-    window.list->setSelectedIdx(c.selected);
-    window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(c.scrollBar));
-    QVERIFY(window.showNow());
-    window.list->setStartIdx(c.selected > 2 ? c.selected / 3 * 3 : 0);
-    if (c.pressed)
-        PhoneKeys::press(Enter);
-    check(picture(window, QTest::currentDataTag()), c.pixels);
-}
-
-void TestListPictures::grid()
-{
-    ListWindow<TwoColumnListView> window;
-    for (const char *name : {"Anna Schmidt", "Bernd Maier-Leibnitz", "Carla", "Dora", "Emil von Hohenstaufen"})
-        window.list->addItem(new ListViewContactGridItem(name, 1, 1));
-    QVERIFY(window.showNow());
-    // Dotted lines between the cells; the frame keeps to the part of the cell that the contact takes.
-    check(picture(window, "grid-first"), {{Grey, "190,33 186,90"}, {White, "90,33 184,5 0,102"}, {Black, "183,5"}});
-    PhoneKeys::clickAll({Right, Down});
-    PhoneKeys::press(Enter);
-    check(picture(window, "grid-pressed"), {{Black, "373,50 190,50"}, {White, "189,50"}});
-    PhoneKeys::release(Enter);
-    window.list->setSelectedIdx(2);
-    picture(window, "grid-last-line");
-
-    window.list->setUseDotLines(false);
-    window.list->setUseDivideLines(true);
-    window.list->setUseTopLine(true);
-    window.list->setUseBottomLine(true);
-    window.list->setUseSideLine(true);
-    window.list->setShowIndex(true);
-    window.list->setGridSize(2, 3);
-    window.list->setRowGap(4);
-    window.list->setColGap(4);
-    window.list->itemClear();
-    const QPixmap icon(":/ui/images/widget/confirm.png"), small = icon.scaled(24, 24);
-    window.add({new GridListViewItem("Settings", icon, QPixmap()),
-                new GridListViewMenuItem("Menu", small, QPixmap()),
-                new GridListViewFunctionItem("Add", small, QPixmap()),
-                new GridListViewItem("A long caption", QPixmap(), QPixmap())});
-    window.list->setSelectedIdx(2);
-    window.list->update();
-    picture(window, "grid-menu");
-}
 
 PHONE_TEST_MAIN(TestListPictures)
 #include "tst_listpictures.moc"

@@ -21,14 +21,6 @@ struct Moves
 };
 Q_DECLARE_METATYPE(Moves)
 
-struct Pages
-{
-    int rows;
-    QString steps; ///< n for nextPage, p for prevPage
-    int page, start, maxPage;
-};
-Q_DECLARE_METATYPE(Pages)
-
 /// A list whose function keys are on, from F2 to F5 as the widest range without a second column.
 class FuncKeyList : public ListView
 {
@@ -47,443 +39,363 @@ class TestListView : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void moves_data();
-    void moves();
-    void leavesAtEitherEnd();
-    void movesOnReleaseAndDropsStrayReleases();
-    void leavesOutDisabledRowsInSearches();
-    void refusesBadSelections();
-    void pages_data();
-    void pages();
-    void findsAndRemovesRows();
-    void changesValues();
-    void togglesAndClicks();
-    void ignoresEnter();
-    void rebuildsInsideItsSignals();
-    void mapsFuncKeys();
-    void clicksByFuncKey();
-    void staysQuietBehindACall();
-    void longPress();
-    void realignsWhenShown();
-    void scrollBar();
-    void frames();
-};
-
-void TestListView::moves_data()
-{
-    addCases<Moves>({
-        {"down within the page", {5, {}, 0, 0, {Down, Down}, 2, 0, {1, 2}}},
-        {"down moves the window", {5, {}, 2, 0, {Down}, 3, 1, {3}}},
-        {"down wraps to the first enabled", {5, {0, 1}, 4, 2, {Down}, 2, 0, {2}}},
-        {"down past disabled rows at the end wraps", {5, {3, 4}, 2, 0, {Down}, 0, 0, {0}}},
-        {"down leaps over disabled rows", {8, {1, 2, 3}, 0, 0, {Down}, 4, 2, {4}}},
-        {"down without wrapping stays", {3, {}, 2, 0, {Down}, 2, 0, {}, false}},
-        {"up wraps to the last enabled", {5, {4}, 0, 0, {Up}, 3, 1, {3}}},
-        {"up wraps in a short list", {2, {}, 0, 0, {Up}, 1, 0, {1}}},
-        {"up without wrapping stays", {3, {}, 0, 0, {Up}, 0, 0, {}, false}},
-        {"up moves the window", {6, {}, 3, 3, {Up}, 2, 2, {2}}},
-        {"up leaps out of the window", {8, {2, 3, 4}, 5, 4, {Up, Up}, 0, 2, {1, 0}}},
-        {"up below disabled rows stays", {4, {0, 1}, 2, 0, {Up}, 2, 0, {}}},
-        {"from no selection, either key", {4, {0}, -1, 0, {Up}, 1, 0, {1}}},
-        {"all rows disabled", {3, {0, 1, 2}, -1, 0, {Down}, -1, 0, {}}},
-        {"empty, down", {0, {}, 0, 0, {Down}, -1, 0, {-1}}},
-        {"empty, up", {0, {}, 0, 0, {Up}, 0, 0, {}}},
-    });
-}
-
-void TestListView::moves()
-{
-    QFETCH(Moves, c);
-    ListWindow window;
-    window.add(c.rows);
-    window.list->setSelectedIdx(c.selected);
-    window.disable(c.disabled);
-    window.list->wrapAround = c.wraps;
-    QVERIFY(window.showNow());
-    window.list->setStartIdx(c.start);
-
-    QSignalSpy changes(window.list, &ListView::focusChanged), keyPresses(window.list, &ListView::keyPressed);
-    PhoneKeys::clickAll(c.keys);
-    QCOMPARE(window.list->selectedIdx(), c.newSelected);
-    QCOMPARE(window.list->startIdx(), c.newStart);
-    QCOMPARE(values(changes), c.focusChanged);
-    QCOMPARE(values(keyPresses), c.keys);
-    QCOMPARE(window.presses, c.keys); // arrows are left to the screen, too
-    QCOMPARE(window.releases, List()); // and their releases are spent
-}
-
-void TestListView::leavesAtEitherEnd()
-{
-    ListWindow window;
-    window.add(4);
-    window.list->setActiveLeaveFocusSignal(true);
-    window.list->setActiveEndLeaveFocusSignal(true);
-    QVERIFY(window.showNow());
-    QSignalSpy atTop(window.list, &ListView::leaveFocus), atEnd(window.list, &ListView::endLeaveFocus);
-    PhoneKeys::click(Up);
-    QCOMPARE(atTop.count(), 1);
-    QCOMPARE(window.list->selectedIdx(), 0);
-    window.list->setSelectedIdx(3);
-    PhoneKeys::click(Down);
-    QCOMPARE(values(atEnd), List{Down});
-    QCOMPARE(window.list->selectedIdx(), 3);
-    QCOMPARE(window.list->startIdx(), 1);
-
-    // A screen answers by clearing the selection, which must not take the focus back from its search line.
-    QWidget searchLine(&window);
-    searchLine.setFocusPolicy(Qt::StrongFocus);
-    searchLine.show();
-    connect(window.list, &ListView::leaveFocus, &searchLine, [&] {
-        searchLine.setFocus();
-        window.list->setSelectedIdx(-1);
-    });
-    window.list->setSelectedIdx(0);
-    QSignalSpy changes(window.list, &ListView::focusChanged);
-    PhoneKeys::click(Up);
-    QTest::qWait(10);
-    QVERIFY(searchLine.hasFocus());
-    QCOMPARE(values(changes), (List{-1, -1})); // as it is cleared, and as the move ends
-}
-
-void TestListView::movesOnReleaseAndDropsStrayReleases()
-{
-    ListWindow window;
-    window.add(6);
-    QVERIFY(window.showNow());
-    QSignalSpy keys(window.list, &ListView::keyPressed), clicks(window.list, &ListView::clicked);
-    PhoneKeys::press(Down);
-    PhoneKeys::repeat(Down);
-    PhoneKeys::repeat(Down);
-    PhoneKeys::release(Down);
-    QCOMPARE(window.list->selectedIdx(), 3);
-    QCOMPARE(keys.count(), 3);
-
-    window.list->setUseDirectMovement(false);
-    PhoneKeys::press(Enter);
-    QVERIFY(window.list->selectAndPressed());
-    PhoneKeys::press(Down);
-    QVERIFY(!window.list->selectAndPressed());
-    QCOMPARE(window.list->selectedIdx(), 3);
-    PhoneKeys::release(Down);
-    PhoneKeys::release(Down);
-    QCOMPARE(window.list->selectedIdx(), 4);
-
-    window.list->setIsEnabledArrowKeyMove(false);
-    PhoneKeys::click(Down);
-    PhoneKeys::press(Enter);
-    window.list->itemClear();
-    window.add(6);
-    PhoneKeys::release(Enter);
-    PhoneKeys::press(Enter);
-    window.list->hide();
-    window.list->show();
-    PhoneKeys::release(Enter);
-    QVERIFY(clicks.isEmpty());
-    QCOMPARE(window.list->selectedIdx(), 4);
-}
-
-void TestListView::leavesOutDisabledRowsInSearches()
-{
-    ListWindow window;
-    QCOMPARE(window.list->searchNextItemIndex(0, false), -1);
-    window.add(5);
-    window.disable({0, 1, 4});
-    List found, back;
-    for (int start : {0, 3, 4, -1, 5})
-        found.append(window.list->searchNextItemIndex(start, false));
-    for (int start : {4, 1 /* a fruitless search back answers its start */, -1, 5})
-        back.append(window.list->searchNextItemIndex(start, true));
-    QCOMPARE(found, (List{2, 3, -1, 0, 4}));
-    QCOMPARE(back, (List{3, 1, 0, 4}));
-}
-
-void TestListView::refusesBadSelections()
-{
-    ListWindow window;
-    window.add(3);
-    window.disable({1});
-    QSignalSpy changes(window.list, &ListView::focusChanged), clicks(window.list, &ListView::clickedFuncKey);
-    for (int idx : {0, 1, 3, 2, 2, -1, -7})
-        window.list->setSelectedIdx(idx);
-    QCOMPARE(values(changes), (List{2, -1, -7}));
-
-    for (int idx : {-1, 2}) {
-        window.list->setSelectedIdx(idx);
-        window.list->doClick();
-    }
-    QCOMPARE(values(clicks), List{2});
-}
-
-void TestListView::pages_data()
-{
-    addCases<Pages>({{"on", {7, "n", 1, 3, 1}},
-                     {"onto the short page", {7, "nn", 2, 6, 1}},
-                     {"around", {7, "nnn", 0, 0, 1}},
-                     {"back around to the short page", {7, "p", 2, 6, 1}},
-                     {"back around to a full page", {6, "p", 1, 3, 1}},
-                     {"there and back", {7, "nnp", 1, 3, 1}},
-                     {"empty back", {0, "p", 0, 0, -1}},
-                     {"empty on", {0, "n", 0, 0, -1}}});
-}
-
-void TestListView::pages()
-{
-    QFETCH(Pages, c);
-    ListWindow window;
-    window.add(c.rows);
-    for (QChar step : c.steps)
-        step == 'n' ? window.list->nextPage() : window.list->prevPage();
-    QCOMPARE(window.list->startIdx(), c.start);
-    QCOMPARE(window.list->selectedIdx(), c.start);
-    QCOMPARE(window.list->maxPage(), c.maxPage);
-
-    window.list->setPage(c.rows / 3 + 1);
-    window.list->setPage(-1);
-    window.list->setPageCount(-1);
-    QCOMPARE(window.list->page(), c.page);
-    QCOMPARE(window.list->pageCount(), 3);
-}
-
-void TestListView::findsAndRemovesRows()
-{
-    ListWindow window;
-    QVERIFY(!window.list->item("Row 1"));
-    window.add(4);
-    QCOMPARE(window.list->item("Row 1"), window.list->item(1));
-    QCOMPARE(window.list->item("none"), window.list->item(3));
-    QVERIFY(!window.list->item(4) && !window.list->item(-1));
-
-    window.list->setSelectedIdx(3);
-    window.list->removeItem(4);
-    window.list->removeItem(-1);
-    QCOMPARE(window.list->itemSize(), 4);
-    QSignalSpy changes(window.list, &ListView::focusChanged);
-    window.list->removeItem(0);
-    QCOMPARE(values(changes), List{2});
-    window.list->moveItem(2, 0);
-    QCOMPARE(window.list->item(0)->text(), QString("Row 3"));
-    window.list->itemClear();
-    QCOMPARE(window.list->selectedIdx(), 2);
-}
-
-void TestListView::changesValues()
-{
-    ListWindow window;
-    auto *bar = new ListViewProgressItem("Volume", 9);
-    bar->setStep(2);
-    bar->setMinValue(1);
-    bar->setValue(7);
-    window.list->addItem(bar);
-    QVERIFY(window.showNow());
-    QSignalSpy changes(window.list, &ListView::changeValue), clicks(window.list, &ListView::clicked);
-    PhoneKeys::clickAll({Right, Qt::Key_VolumeUp, Left, Qt::Key_VolumeDown, Qt::Key_VolumeMute, Left});
-    QCOMPARE(values(changes, 1), (List{9, 9, 7, 5, 5, 1})); // a mute tells the value from before it
-    QCOMPARE(bar->value(), 1);
-
-    window.list->setIsEnabledArrowKeyMove(false);
-    PhoneKeys::click(Right);
-    QCOMPARE(bar->value(), 1);
-    PhoneKeys::click(Qt::Key_VolumeUp);
-    QCOMPARE(bar->value(), 3);
-
-    window.list->setIsEnabledArrowKeyMove(true);
-    window.list->addItem(new ListViewSelectItem("Tone", "One"));
-    window.list->setSelectedIdx(1);
-    PhoneKeys::clickAll({Left, Right, Qt::Key_VolumeUp});
-    QCOMPARE(values(clicks), (List{1, 1}));
-}
-
-void TestListView::togglesAndClicks()
-{
-    ListWindow window;
-    auto *check = new ListViewCheckItem("Plain", false), *fixed = new ListViewCheckItem("Screen decides", false);
-    auto *bare = new ListViewCheckLineEditItem("Without its field", false, true, QString());
-    fixed->setIsNoValueChange(true);
-    bare->setUseEditText(false);
-    window.add({check, fixed, bare});
-    window.add(1);
-    QVERIFY(window.showNow());
-    QSignalSpy clicks(window.list, &ListView::clicked);
-    PhoneKeys::clickAll({Enter, Down, Qt::Key_Enter, Down, Enter, Down, Qt::Key_Enter});
-    QCOMPARE(values(clicks), (List{0, 1, 2, 3}));
-    QVERIFY(check->isChecked() && !fixed->isChecked() && bare->isChecked());
-}
-
-void TestListView::ignoresEnter()
-{
-    ListWindow window;
-    window.add(1);
-    QVERIFY(window.showNow());
-    QSignalSpy clicks(window.list, &ListView::clicked);
-    window.list->ignoreEnterKey = true;
-    PhoneKeys::click(Enter);
-    window.list->ignoreEnterKey = false;
-    window.list->setSelectedIdx(-1);
-    PhoneKeys::click(Enter);
-    window.list->setSelectedIdx(0);
-    window.list->longPressSwallowed = true;
-    PhoneKeys::click(Enter);
-    QVERIFY(clicks.isEmpty());
-    window.list->itemClear();
-    PhoneKeys::click(Enter);
-    QCOMPARE(values(clicks), List{0}); // a selection without its row is clicked all the same
-}
-
-void TestListView::rebuildsInsideItsSignals()
-{
-    ListWindow<FuncKeyList> window;
-    const auto rebuild = [&] {
-        window.list->itemClear();
-        window.list->addItem(new ListViewCheckItem("New", false));
-    };
-    window.add(4);
-    QVERIFY(window.showNow());
-    connect(window.list, &ListView::clicked, this, rebuild);
-    connect(window.list, &ListView::keyPressed, this, rebuild);
-    connect(window.list, &ListView::focusChanged, this, rebuild);
-    connect(window.list, &ListView::endLeaveFocus, this, rebuild);
-    window.list->setActiveEndLeaveFocusSignal(true);
-    PhoneKeys::clickAll({Enter, Qt::Key_F3, Down, Qt::Key_F2, Up, Left, Qt::Key_VolumeMute, Enter});
-    QTest::qWait(10);
-    QCOMPARE(window.list->itemSize(), 1);
-}
-
-void TestListView::mapsFuncKeys()
-{
-    ListWindow<FuncKeyList> window;
-    window.list->setStartIdx(10);
-    const auto rows = [&](const List &keys) {
-        List found;
-        for (int key : keys)
-            found.append(window.list->keyToItemIdx(key));
-        return found;
-    };
-    QCOMPARE(rows({Qt::Key_F1, Qt::Key_F2, Qt::Key_F5, Qt::Key_F6}), (List{-1, 10, 13, -1}));
-    window.list->setStartFuncKey(Qt::Key_F1);
-    window.list->setEndFuncKey(Qt::Key_F10);
-    QCOMPARE(rows({Qt::Key_F3, Qt::Key_F4, Qt::Key_F10}), (List{12, 10, 16})); // in a second column
-    window.list->setEnableFuncKey(true); // which it cannot do
-    QCOMPARE(rows({Qt::Key_F3}), List{-1});
-}
-
-void TestListView::clicksByFuncKey()
-{
-    ListWindow<FuncKeyList> window;
-    auto *check = new ListViewCheckItem("Check", false);
-    window.list->addItem(check);
-    window.add(2);
-    window.disable({1});
-    QVERIFY(window.showNow());
-    QSignalSpy clicks(window.list, &ListView::clicked), keyClicks(window.list, &ListView::clickedFuncKey);
-    PhoneKeys::press(Qt::Key_F4);
-    QCOMPARE(window.list->selectedIdx(), 2);
-    PhoneKeys::release(Qt::Key_F4);
-    PhoneKeys::clickAll({Qt::Key_F3 /* disabled */, Qt::Key_F2});
-    QVERIFY(check->isChecked());
-    QCOMPARE(window.presses, List());
-    PhoneKeys::clickAll({Qt::Key_F5 /* of the range, but no row */, Qt::Key_F7});
-    QCOMPARE(values(clicks), (List{2, 0}));
-    QCOMPARE(values(keyClicks), (List{2, 0}));
-    QCOMPARE(window.presses, List{Qt::Key_F7});
-    QCOMPARE(window.releases, (List{Qt::Key_F5, Qt::Key_F7}));
-
-    window.list->setIsVisibleSelectBackGround(false);
-    PhoneKeys::click(Qt::Key_F4);
-    QCOMPARE(window.list->selectedIdx(), -1);
-    QCOMPARE(clicks.count(), 3);
-}
-
-void TestListView::staysQuietBehindACall()
-{
-    ListWindow<FuncKeyList> window;
-    window.add(3);
-    QVERIFY(window.showNow());
-    QSignalSpy clicks(window.list, &ListView::clicked);
-    m_phone->core.callManager()->setCallState("CONNECT");
-    for (const bool menu : {false, true}) {
-        // Only a release selects here: the press is the list's own business.
-        m_phone->core.setVisibleMenu(menu);
-        PhoneKeys::press(Qt::Key_F3);
-        window.list->setSelectedIdx(0);
-        PhoneKeys::release(Qt::Key_F3);
-        QCOMPARE(window.list->selectedIdx(), menu ? 1 : 0);
-    }
-    QCOMPARE(values(clicks), (List{1, 1}));
-}
-
-void TestListView::longPress()
-{
-    ListWindow<FuncKeyList> window;
-    window.add(3);
-    window.list->setIsEnabledLongPress(true);
-    QVERIFY(window.showNow());
-    QSignalSpy held(window.list, &ListView::longPress), clicks(window.list, &ListView::clicked);
-    // The timer's own end is brought about here, so that nobody waits for it.
-    PhoneKeys::press(Qt::Key_F3);
-    window.list->longPressTimeout();
-    QCOMPARE(values(held), List{1});
-    PhoneKeys::release(Qt::Key_F3);
-    QCOMPARE(values(clicks), List{1});
-    window.list->longPressTimeout();
-    QCOMPARE(held.count(), 1);
-
-    connect(window.list, &ListView::longPress, this, [&] { window.list->setKeyPressFlag(false); });
-    window.list->setIsVisibleSelectBackGround(false);
-    PhoneKeys::press(Qt::Key_F4);
-    QTRY_COMPARE(values(held), (List{1, 2}));
-    PhoneKeys::release(Qt::Key_F4);
-    QCOMPARE(window.list->selectedIdx(), -1);
-    QCOMPARE(clicks.count(), 1);
-}
-
-void TestListView::realignsWhenShown()
-{
-    ListWindow window;
-    window.add(9);
-    window.list->setSelectedIdx(5);
-    for (const int selected : {5, 0}) {
-        window.list->setStartIdx(4);
-        window.list->setSelectedIdx(selected);
-        window.show();
-        QCOMPARE(window.list->startIdx(), selected ? 3 : 4);
-        window.hide();
-        QCOMPARE(window.list->selectedIdx(), selected);
-    }
-}
-
-void TestListView::scrollBar()
-{
-    static const struct
+    void moves_data()
     {
-        int rows, selected, margins;
-        qreal top, height;
-    } bars[] = {{5, 0, 0, 0, 50},   {5, -1, 0, 0, 50},  {5, 2, 0, 25, 50},    {5, 4, 0, 50, 50},
-                {5, 4, 10, 50, 40}, {101, 0, 0, 0, 20}, {101, 100, 0, 98, 2}, {101, 110, 0, 107.8, 1}};
-    for (const auto &bar : bars) {
-        ListGeometry::Track track;
-        track.height = 100;
-        track.topMargin = track.bottomMargin = bar.margins;
-        const ListGeometry::Thumb thumb = ListGeometry::scrollThumb(track, bar.rows, 3, bar.selected);
-        QCOMPARE(thumb.top, bar.top);
-        QCOMPARE(thumb.height, bar.height);
+        addCases<Moves>({
+            {"down moves the window", {5, {}, 2, 0, {Down}, 3, 1, {3}}},
+            {"down wraps to the first enabled", {5, {0, 1}, 4, 2, {Down}, 2, 0, {2}}},
+            {"down past disabled rows at the end wraps", {5, {3, 4}, 2, 0, {Down}, 0, 0, {0}}},
+            {"down leaps over disabled rows", {8, {1, 2, 3}, 0, 0, {Down}, 4, 2, {4}}},
+            {"down without wrapping stays", {3, {}, 2, 0, {Down}, 2, 0, {}, false}},
+            {"up wraps to the last enabled", {5, {4}, 0, 0, {Up}, 3, 1, {3}}},
+            {"up wraps in a short list", {2, {}, 0, 0, {Up}, 1, 0, {1}}},
+            {"up without wrapping stays", {3, {}, 0, 0, {Up}, 0, 0, {}, false}},
+            {"up moves the window", {6, {}, 3, 3, {Up}, 2, 2, {2}}},
+            {"up leaps out of the window", {8, {2, 3, 4}, 5, 4, {Up, Up}, 0, 2, {1, 0}}},
+            {"up below disabled rows stays", {4, {0, 1}, 2, 0, {Up}, 2, 0, {}}},
+            {"from no selection, either key", {4, {0}, -1, 0, {Up}, 1, 0, {1}}},
+            {"all rows disabled", {3, {0, 1, 2}, -1, 0, {Down}, -1, 0, {}}},
+            {"empty, down", {0, {}, 0, 0, {Down}, -1, 0, {-1}}},
+            {"empty, up", {0, {}, 0, 0, {Up}, 0, 0, {}}},
+        });
     }
-}
 
-/// What rows learn from the list as it paints them.
-void TestListView::frames()
-{
-    ListWindow window;
-    window.add(3);
-    window.list->setLineLeftMargin(4);
-    window.list->setLineRightMargin(6);
-    QVERIFY(window.showNow());
-    QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(4, 34), QPoint(368, 67)));
-    QVERIFY(!window.list->item(1)->hasScrollBar());
-    window.add(1);
-    window.list->update();
-    QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(4, 34), QPoint(360, 67)));
-    QCOMPARE(window.list->item(1)->scrollBarAreaWidth(), 8 + 3);
-}
+    void moves()
+    {
+        QFETCH(Moves, c);
+        ListWindow window;
+        window.add(c.rows);
+        window.list->setSelectedIdx(c.selected);
+        window.disable(c.disabled);
+        window.list->wrapAround = c.wraps;
+        QVERIFY(window.showNow());
+        window.list->setStartIdx(c.start);
+
+        QSignalSpy changes(window.list, &ListView::focusChanged), keyPresses(window.list, &ListView::keyPressed);
+        PhoneKeys::clickAll(c.keys);
+        QCOMPARE(window.list->selectedIdx(), c.newSelected);
+        QCOMPARE(window.list->startIdx(), c.newStart);
+        QCOMPARE(values(changes), c.focusChanged);
+        QCOMPARE(values(keyPresses), c.keys);
+        QCOMPARE(window.presses, c.keys); // arrows are left to the screen, too
+        QCOMPARE(window.releases, List()); // and their releases are spent
+    }
+
+    void leavesAtEitherEnd()
+    {
+        ListWindow window;
+        window.add(4);
+        window.list->setActiveLeaveFocusSignal(true);
+        window.list->setActiveEndLeaveFocusSignal(true);
+        QVERIFY(window.showNow());
+        QSignalSpy atTop(window.list, &ListView::leaveFocus), atEnd(window.list, &ListView::endLeaveFocus);
+        PhoneKeys::click(Up);
+        QCOMPARE(atTop.count(), 1);
+        QCOMPARE(window.list->selectedIdx(), 0);
+        window.list->setSelectedIdx(3);
+        PhoneKeys::click(Down);
+        QCOMPARE(values(atEnd), List{Down});
+        QCOMPARE(window.list->selectedIdx(), 3);
+        QCOMPARE(window.list->startIdx(), 1);
+
+        // A screen answers by clearing the selection, which must not take the focus back from its search line.
+        QWidget searchLine(&window);
+        searchLine.setFocusPolicy(Qt::StrongFocus);
+        searchLine.show();
+        connect(window.list, &ListView::leaveFocus, &searchLine, [&] {
+            searchLine.setFocus();
+            window.list->setSelectedIdx(-1);
+        });
+        window.list->setSelectedIdx(0);
+        QSignalSpy changes(window.list, &ListView::focusChanged);
+        PhoneKeys::click(Up);
+        QTest::qWait(10);
+        QVERIFY(searchLine.hasFocus());
+        QCOMPARE(values(changes), (List{-1, -1})); // as it is cleared, and as the move ends
+    }
+
+    void movesOnReleaseAndDropsStrayReleases()
+    {
+        ListWindow window;
+        window.add(6);
+        QVERIFY(window.showNow());
+        QSignalSpy keys(window.list, &ListView::keyPressed), clicks(window.list, &ListView::clicked);
+        PhoneKeys::press(Down);
+        PhoneKeys::repeat(Down);
+        PhoneKeys::repeat(Down);
+        PhoneKeys::release(Down);
+        QCOMPARE(window.list->selectedIdx(), 3);
+        QCOMPARE(keys.count(), 3);
+
+        window.list->setUseDirectMovement(false);
+        PhoneKeys::press(Enter);
+        QVERIFY(window.list->selectAndPressed());
+        PhoneKeys::press(Down);
+        QVERIFY(!window.list->selectAndPressed());
+        QCOMPARE(window.list->selectedIdx(), 3);
+        PhoneKeys::release(Down);
+        PhoneKeys::release(Down);
+        QCOMPARE(window.list->selectedIdx(), 4);
+
+        window.list->setIsEnabledArrowKeyMove(false);
+        PhoneKeys::click(Down);
+        PhoneKeys::press(Enter);
+        window.list->itemClear();
+        window.add(6);
+        PhoneKeys::release(Enter);
+        PhoneKeys::press(Enter);
+        window.list->hide();
+        window.list->show();
+        PhoneKeys::release(Enter);
+        QVERIFY(clicks.isEmpty());
+        QCOMPARE(window.list->selectedIdx(), 4);
+    }
+
+    void refusesBadSelections()
+    {
+        ListWindow window;
+        window.add(3);
+        window.disable({1});
+        QSignalSpy changes(window.list, &ListView::focusChanged);
+        for (int idx : {0, 1, 3, 2, 2, -1, -7})
+            window.list->setSelectedIdx(idx);
+        QCOMPARE(values(changes), (List{2, -1, -7}));
+    }
+
+    void pages()
+    {
+        ListWindow window;
+        const auto turned = [&](int rows, const char *steps) {
+            window.list->itemClear();
+            window.list->setStartIdx(0);
+            window.list->setPage(0);
+            window.add(rows);
+            for (const char *step = steps; *step; ++step)
+                *step == 'n' ? window.list->nextPage() : window.list->prevPage();
+            return List{window.list->page(), window.list->startIdx(), window.list->selectedIdx()};
+        };
+        QCOMPARE(turned(7, "n"), (List{1, 3, 3}));
+        QCOMPARE(turned(7, "nn"), (List{2, 6, 6})); // a short page
+        QCOMPARE(turned(7, "nnn"), (List{0, 0, 0}));
+        QCOMPARE(turned(7, "p"), (List{2, 6, 6}));
+        QCOMPARE(turned(6, "p"), (List{1, 3, 3}));
+        QCOMPARE(turned(7, "nnp"), (List{1, 3, 3}));
+        for (int page : {-1, 3})
+            window.list->setPage(page);
+        QCOMPARE(window.list->page(), 1);
+        QCOMPARE(turned(0, "p").mid(0, 2), (List{0, 0}));
+        QCOMPARE(turned(0, "n").mid(0, 2), (List{0, 0}));
+    }
+
+    void findsAndRemovesRows()
+    {
+        ListWindow window;
+        QVERIFY(!window.list->item("Row 1"));
+        window.add(4);
+        QCOMPARE(window.list->item("Row 1"), window.list->item(1));
+        QCOMPARE(window.list->item("none"), window.list->item(3));
+        window.list->setSelectedIdx(3);
+        QSignalSpy changes(window.list, &ListView::focusChanged);
+        for (int idx : {4, -1, 0})
+            window.list->removeItem(idx);
+        QCOMPARE(values(changes), List{2});
+        QVERIFY(!window.list->item(3) && !window.list->item(-1));
+    }
+
+    void changesValues()
+    {
+        ListWindow window;
+        auto *bar = new ListViewProgressItem("Volume", 9);
+        bar->setStep(2);
+        bar->setMinValue(1);
+        bar->setValue(7);
+        window.list->addItem(bar);
+        QVERIFY(window.showNow());
+        QSignalSpy changes(window.list, &ListView::changeValue), clicks(window.list, &ListView::clicked);
+        PhoneKeys::clickAll({Right, Qt::Key_VolumeUp, Left, Qt::Key_VolumeDown, Qt::Key_VolumeMute, Left});
+        QCOMPARE(values(changes, 1), (List{9, 9, 7, 5, 5, 1})); // a mute tells the value from before it
+        QCOMPARE(bar->value(), 1);
+
+        window.list->setIsEnabledArrowKeyMove(false);
+        PhoneKeys::clickAll({Right, Qt::Key_VolumeUp});
+        QCOMPARE(bar->value(), 3);
+        window.list->setIsEnabledArrowKeyMove(true);
+        window.list->addItem(new ListViewSelectItem("Tone", "One"));
+        window.list->setSelectedIdx(1);
+        PhoneKeys::clickAll({Left, Right, Qt::Key_VolumeUp});
+        QCOMPARE(values(clicks), (List{1, 1}));
+    }
+
+    void togglesAndClicks()
+    {
+        ListWindow window;
+        auto *check = new ListViewCheckItem("Plain", false),
+             *fixed = new ListViewCheckItem("Screen decides", false);
+        auto *bare = new ListViewCheckLineEditItem("Without its field", false, true, QString());
+        fixed->setIsNoValueChange(true);
+        bare->setUseEditText(false);
+        window.add({check, fixed, bare});
+        window.add(1);
+        QVERIFY(window.showNow());
+        QSignalSpy clicks(window.list, &ListView::clicked);
+        PhoneKeys::clickAll({Enter, Down, Qt::Key_Enter, Down, Enter, Down, Qt::Key_Enter});
+        QCOMPARE(values(clicks), (List{0, 1, 2, 3}));
+        QVERIFY(check->isChecked() && !fixed->isChecked() && bare->isChecked());
+    }
+
+    void ignoresEnter()
+    {
+        ListWindow window;
+        window.add(1);
+        QVERIFY(window.showNow());
+        QSignalSpy clicks(window.list, &ListView::clicked);
+        window.list->ignoreEnterKey = true;
+        PhoneKeys::click(Enter);
+        window.list->ignoreEnterKey = false;
+        window.list->setSelectedIdx(-1);
+        PhoneKeys::click(Enter);
+        window.list->setSelectedIdx(0);
+        window.list->longPressSwallowed = true;
+        PhoneKeys::click(Enter);
+        QVERIFY(clicks.isEmpty());
+        window.list->itemClear();
+        PhoneKeys::click(Enter);
+        QCOMPARE(values(clicks), List{0}); // a selection without its row is clicked all the same
+    }
+
+    void rebuildsInsideItsSignals()
+    {
+        ListWindow<FuncKeyList> window;
+        const auto rebuild = [&] {
+            window.list->itemClear();
+            window.list->addItem(new ListViewCheckItem("New", false));
+        };
+        window.add(4);
+        QVERIFY(window.showNow());
+        connect(window.list, &ListView::clicked, this, rebuild);
+        connect(window.list, &ListView::keyPressed, this, rebuild);
+        connect(window.list, &ListView::focusChanged, this, rebuild);
+        connect(window.list, &ListView::endLeaveFocus, this, rebuild);
+        window.list->setActiveEndLeaveFocusSignal(true);
+        PhoneKeys::clickAll({Enter, Qt::Key_F3, Down, Qt::Key_F2, Up, Left, Qt::Key_VolumeMute, Enter});
+        QTest::qWait(10);
+        QCOMPARE(window.list->itemSize(), 1);
+    }
+
+    void clicksByFuncKey()
+    {
+        ListWindow<FuncKeyList> window;
+        auto *check = new ListViewCheckItem("Check", false);
+        window.list->addItem(check);
+        window.add(2);
+        window.disable({1});
+        QVERIFY(window.showNow());
+        QSignalSpy clicks(window.list, &ListView::clicked), keyClicks(window.list, &ListView::clickedFuncKey);
+        PhoneKeys::press(Qt::Key_F4);
+        QCOMPARE(window.list->selectedIdx(), 2);
+        PhoneKeys::release(Qt::Key_F4);
+        PhoneKeys::clickAll({Qt::Key_F3 /* disabled */, Qt::Key_F2});
+        QVERIFY(check->isChecked());
+        QCOMPARE(window.presses, List());
+        PhoneKeys::clickAll({Qt::Key_F5 /* of the range, but no row */, Qt::Key_F7});
+        QCOMPARE(values(clicks), (List{2, 0}));
+        QCOMPARE(values(keyClicks), (List{2, 0}));
+        QCOMPARE(window.presses, List{Qt::Key_F7});
+        QCOMPARE(window.releases, (List{Qt::Key_F5, Qt::Key_F7}));
+
+        window.list->setStartFuncKey(Qt::Key_F1);
+        window.list->setEndFuncKey(Qt::Key_F10);
+        QCOMPARE(window.list->keyToItemIdx(Qt::Key_F3), 2);
+        QCOMPARE(window.list->keyToItemIdx(Qt::Key_F4), 0); // in a second column
+    }
+
+    void staysQuietBehindACall()
+    {
+        ListWindow<FuncKeyList> window;
+        window.add(3);
+        QVERIFY(window.showNow());
+        QSignalSpy clicks(window.list, &ListView::clicked);
+        m_phone->core.callManager()->setCallState("CONNECT");
+        for (const bool menu : {false, true}) {
+            // Only a release selects here: the press is the list's own business.
+            m_phone->core.setVisibleMenu(menu);
+            PhoneKeys::press(Qt::Key_F3);
+            window.list->setSelectedIdx(0);
+            PhoneKeys::release(Qt::Key_F3);
+            QCOMPARE(window.list->selectedIdx(), menu ? 1 : 0);
+        }
+        QCOMPARE(values(clicks), (List{1, 1}));
+    }
+
+    void longPress()
+    {
+        ListWindow<FuncKeyList> window;
+        window.add(3);
+        window.list->setIsEnabledLongPress(true);
+        QVERIFY(window.showNow());
+        QSignalSpy held(window.list, &ListView::longPress), clicks(window.list, &ListView::clicked);
+        // The timer's own end is brought about here, so that nobody waits for it.
+        PhoneKeys::press(Qt::Key_F3);
+        window.list->longPressTimeout();
+        QCOMPARE(values(held), List{1});
+        PhoneKeys::release(Qt::Key_F3);
+        window.list->longPressTimeout();
+        QCOMPARE(held.count(), 1);
+        QCOMPARE(values(clicks), List{1});
+
+        connect(window.list, &ListView::longPress, this, [&] { window.list->setKeyPressFlag(false); });
+        window.list->setIsVisibleSelectBackGround(false);
+        PhoneKeys::press(Qt::Key_F4);
+        QTRY_COMPARE(values(held), (List{1, 2}));
+        PhoneKeys::release(Qt::Key_F4);
+        QCOMPARE(window.list->selectedIdx(), -1);
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void realignsWhenShown()
+    {
+        ListWindow window;
+        window.add(9);
+        for (const int selected : {5, 0}) {
+            window.list->setStartIdx(4);
+            window.list->setSelectedIdx(selected);
+            window.show();
+            QCOMPARE(window.list->startIdx(), selected ? 3 : 4);
+            window.hide();
+        }
+    }
+
+    void scrollBar()
+    {
+        const auto thumb = [](int rows, int selected, int margins = 0) {
+            const ListGeometry::Thumb bar = ListGeometry::scrollThumb({100, margins, margins}, rows, 3, selected);
+            return QPointF(bar.top, bar.height);
+        };
+        QCOMPARE(thumb(5, -1), QPointF(0, 50));
+        QCOMPARE(thumb(5, 2), QPointF(25, 50));
+        QCOMPARE(thumb(5, 4), QPointF(50, 50));
+        QCOMPARE(thumb(5, 4, 10), QPointF(50, 40));
+        QCOMPARE(thumb(101, 0), QPointF(0, 20));
+        QCOMPARE(thumb(101, 100), QPointF(98, 2));
+        QCOMPARE(thumb(101, 110), QPointF(107.8, 1));
+    }
+
+    /// What rows learn from the list as it paints them.
+    void frames()
+    {
+        ListWindow window;
+        window.add(3);
+        window.list->setLineLeftMargin(4);
+        window.list->setLineRightMargin(6);
+        QVERIFY(window.showNow());
+        QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(4, 34), QPoint(368, 67)));
+        QVERIFY(!window.list->item(1)->hasScrollBar());
+        window.add(1);
+        window.list->update();
+        QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(4, 34), QPoint(360, 67)));
+        QCOMPARE(window.list->item(1)->scrollBarAreaWidth(), 8 + 3);
+    }
+};
 
 PHONE_TEST_MAIN(TestListView)
 #include "tst_listview.moc"

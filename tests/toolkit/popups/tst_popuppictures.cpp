@@ -17,13 +17,6 @@ struct Notice
 };
 Q_DECLARE_METATYPE(Notice)
 
-struct Wait
-{
-    bool panel;
-    int frame;
-};
-Q_DECLARE_METATYPE(Wait)
-
 using Fill = void (*)(SelectPopup &);
 Q_DECLARE_METATYPE(Fill)
 
@@ -60,15 +53,15 @@ private slots:
         shoot();
     }
 
-    void wait_data() { addCases<Wait>({{"panel-1", {true, 0}}, {"panel-4", {true, 3}}, {"box-8", {false, 7}}}); }
+    void wait_data() { addCases<int>({{"panel-1", 0}, {"panel-4", 3}, {"box-8", 7}}); }
 
     void wait()
     {
-        QFETCH(Wait, c);
+        QFETCH(int, c);
         ToastWait toast("Connecting...", 0, m_screen.get());
-        toast.setUseFullScreen(c.panel);
+        toast.setUseFullScreen(c < 7);
         toast.show();
-        for (int i = 0; i < c.frame; ++i)
+        for (int i = 0; i < c; ++i)
             toast.pixmapTimeout();
         shoot();
     }
@@ -118,7 +111,7 @@ private slots:
         shootPressed(popup);
     }
 
-    void grid()
+    void gridpopup()
     {
         GridSelectPopup popup(m_screen.get(), 0);
         for (const QChar sign : QString(".,?!@#&%*()/:;"))

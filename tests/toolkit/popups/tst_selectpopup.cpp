@@ -16,13 +16,6 @@ struct Ending
 };
 Q_DECLARE_METATYPE(Ending)
 
-struct Removal
-{
-    Prepare prepare;
-    QList<int> keys;
-};
-Q_DECLARE_METATYPE(Removal)
-
 /// A popup with rows, which may slide, as the popups of the phone could.
 class FilledPopup : public SoundSelectPopup
 {
@@ -122,15 +115,6 @@ private slots:
         }
     }
 
-    void aClickBeyondTheRowsRejects()
-    {
-        FilledPopup popup(m_screen.get(), 2);
-        QCOMPARE(runBox(popup, [&] { popup.clickedListView(2); }), int(QDialog::Rejected));
-        QCOMPARE(popup.selectedIdx(), 2);
-        popup.onClickOkButton();
-        QCOMPARE(popup.result(), int(QDialog::Rejected));
-    }
-
     void theBroadcastEndsIt()
     {
         FilledPopup popup(m_screen.get());
@@ -189,40 +173,31 @@ private slots:
         }
     }
 
-    void deletedWhileShown_data()
-    {
-        const auto atOnce = [](SelectPopup &popup) { delete &popup; };
-        const auto byRow = [](SelectPopup &popup) {
-            connect(popup.listView(), &ListView::clicked, &popup, [&popup] { delete &popup; });
-        };
-        const auto byResult = [](SelectPopup &popup) {
-            popup.setUseFastClose(true);
-            connect(&popup, &QDialog::finished, &popup, [&popup] { delete &popup; });
-        };
-        const auto byButton = [](SelectPopup &popup) {
-            connect(popup.cancelButton(), &ImageButton::isHover, &popup, [&popup](bool on) {
-                if (!on)
-                    delete &popup;
-            });
-        };
-        addCases<Removal>({{"from outside", {atOnce, {}}},
-                           {"by its list", {byRow, {Qt::Key_Return}}},
-                           {"by its result", {byResult, {Qt::Key_Return}}},
-                           {"by its cancel", {byResult, {Qt::Key_Escape}}},
-                           {"by its button", {byButton, {Qt::Key_Context4}}}});
-    }
-
     void deletedWhileShown()
     {
-        QFETCH(Removal, c);
-        const QPointer<SelectPopup> popup = new FilledPopup(m_screen.get());
-        popup->show();
-        QVERIFY(waitUntilActive(popup));
-        c.prepare(*popup);
-        clickAll(c.keys);
-        QVERIFY(!popup);
-        QVERIFY2(theCore->soundManager()->isEnabledKeytone(), "the keys stayed silent");
-        QVERIFY(screenHasKeys());
+        static const QList<int> keys[]
+            = {{}, {Qt::Key_Return}, {Qt::Key_Return}, {Qt::Key_Escape}, {Qt::Key_Context4}};
+        for (int signal = 0; signal < 5; ++signal) {
+            QPointer<SelectPopup> popup = new FilledPopup(m_screen.get());
+            const auto remove = [&] { delete popup; };
+            popup->show();
+            QVERIFY(waitUntilActive(popup));
+            popup->setUseFastClose(signal > 1);
+            switch (signal) {
+            case 0: remove(); break;
+            case 1: connect(popup->listView(), &ListView::clicked, this, remove); break;
+            case 4: connect(popup->cancelButton(), &ImageButton::isHover, this, remove); break;
+            default: connect(popup, &QDialog::finished, this, remove); break;
+            }
+            for (const int key : keys[signal]) {
+                press(Qt::Key(key));
+                if (popup)
+                    release(Qt::Key(key));
+            }
+            QVERIFY(!popup);
+            QVERIFY2(theCore->soundManager()->isEnabledKeytone(), "the keys stayed silent");
+            QVERIFY(screenHasKeys());
+        }
     }
 
     void leavesInEveryWay()

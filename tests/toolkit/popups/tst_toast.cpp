@@ -31,17 +31,12 @@ class ToastTest : public ScreenTest
     Q_OBJECT
 
 private slots:
-    void isMadeForItsParent()
+    void isSmallOverANarrowParent()
     {
-        m_screen->setObjectName("Screen");
-        IdleToast toast("Words", Forever, m_screen.get());
-        QCOMPARE(toast.objectName(), QString("Toast:Screen"));
-        QVERIFY(!toast.isWindow() && !toast.resized() && toast.useRollbackFocus());
         QWidget narrow;
         narrow.resize(383, 134);
         QVERIFY(Toast("Words", Forever, &narrow).resized());
-        QVERIFY(!ToastWait("Words", Forever, &narrow).useRollbackFocus());
-        QCOMPARE(Toast("Words", Forever, nullptr).objectName(), QString("Toast"));
+        QVERIFY(!IdleToast("Words", Forever, m_screen.get()).resized());
     }
 
     void keysEndIt_data()
@@ -75,8 +70,7 @@ private slots:
         Toast toast("Words", 10, m_screen.get());
         QSignalSpy ended(&toast, &Toast::toastTimeout);
         QCOMPARE(toast.exec(), 0);
-        QVERIFY(!toast.isVisible());
-        QCOMPARE(ended.size(), 1);
+        QVERIFY(!toast.isVisible() && ended.size() == 1);
     }
 
     void timesBeginAnew_data()
@@ -99,7 +93,6 @@ private slots:
             time == Words ? toast.setMessage("Other words") : toast.setTimeout(time);
         const auto *timer = toast.findChild<QTimer *>();
         QCOMPARE(timer && timer->isActive() ? timer->interval() : -1, c.runs);
-        QVERIFY(!timer || timer->isSingleShot());
     }
 
     void letsKeysThrough()
@@ -117,9 +110,7 @@ private slots:
         const bool stayed = run(wait, [&] {
             click(Qt::Key_Return);
             QVERIFY(escaped.isEmpty());
-            press(Qt::Key_Escape);
-            QCOMPARE(escaped.size(), 1);
-            release(Qt::Key_Escape);
+            click(Qt::Key_Escape);
         });
         QVERIFY(stayed);
         QCOMPARE(escaped.size(), 1);
@@ -156,20 +147,6 @@ private slots:
         QVERIFY(!toast.previousActiveWidget()); // nor does it ever take a widget
         QVERIFY(!run(toast, [] { click(Qt::Key_Return); }));
         QVERIFY(!run(toast, [] { release(Qt::Key_Return); }));
-    }
-
-    void severalLinesAreSmallerEverAfter()
-    {
-        Toast toast("Words", Forever, m_screen.get());
-        toast.setFontSize(25);
-        toast.show();
-        toast.grab();
-        QCOMPARE(toast.fontSize(), 25);
-        for (const char *text : {"Two\nlines", "One line"}) {
-            toast.setMessage(text);
-            toast.grab();
-            QCOMPARE(toast.fontSize(), 19);
-        }
     }
 
     void theWaitTurns()

@@ -255,7 +255,6 @@ private slots:
 
     void pictures_data();
     void pictures();
-    void picturesExist_data();
     void picturesExist();
 
 private:
@@ -368,50 +367,30 @@ void RowPaintTest::pictures()
 }
 
 /// Every picture that the toolkit loads by name.
-void RowPaintTest::picturesExist_data()
-{
-    QTest::addColumn<QSize>("size");
-    const auto add = [](int width, int height, const QString &path, const QString &names) {
-        const QStringList list = names.split(' ');
-        for (const QString &name : list)
-            QTest::newRow(qPrintable(":/ui/images/" + path + name + ".png")) << QSize(width, height);
-    };
-    add(20, 20, "title/status_",
-        "lock call call_lock call_forward call_hold auto_answer dnd mute upgrade mobile aom nvc headset "
-        "headset_ehs "
-        "headset_bt headset_bt_off bluetooth bluetooth_off bluetooth_acc bluetooth_acc_off wifi_-1 wifi_0 wifi_1 "
-        "wifi_2 wifi_3 wifi_4 type_korean type_smallletter type_capital type_num");
-    add(12, 20, "title/", "breadcrumb");
-    add(6, 20, "title/num_bg_", "left right");
-    add(24, 20, "widget/softkey_", "ok ok_sel delete delete_sel cancel cancel_sel nextpage nextpage_sel");
-    // The frame asks its corners for their size.
-    add(0, 0, "widget/focus_02_left", "top top_sel");
-    add(0, 0, "widget/focus_02_", "lefbottom lefbottom_sel righttop righttop_sel rightbottom rightbottom_sel");
-    add(6, 30, "widget/inputbox_", "left left_sel right right_sel");
-    add(4, 30, "widget/inputbox_", "mid mid_sel");
-    add(20, 20, "widget/", "checkbox checkbox_check checkbox_check_sel radio radio_sel popup_i");
-    add(40, 30, "widget/list_", "focus focus_sel");
-    add(6, 30, "checkbox_bg_", "left right");
-    add(36, 30, "", "call_hold_bg_right");
-    add(24, 24, "contact/contacts_", "group group_sel");
-    add(6, 158, "widget/popup_01_", "left right");
-    add(4, 158, "widget/popup_01_", "mid");
-    add(12, 104, "widget/popup_02_", "left right");
-    add(4, 104, "widget/popup_02_", "mid");
-    add(380, 133, "widget/", "popup_03");
-    add(40, 36, "widget/", "no_data");
-    add(20, 24, "", "alarm_icon_02");
-    add(32, 32, "widget/", "confirm delete error_emoti");
-    add(32, 32, "widget/loading_", "01 02 03 04 05 06 07 08");
-}
-
 void RowPaintTest::picturesExist()
 {
-    QFETCH(QSize, size);
-    const QImage picture(QTest::currentDataTag());
-    QVERIFY(!picture.isNull());
-    if (!size.isEmpty())
-        QCOMPARE(picture.size(), size);
+    const QPair<QString, QString> folders[] = {
+        {"title/status_",
+         "lock call call_lock call_forward call_hold auto_answer dnd mute upgrade mobile aom nvc wifi_-1 wifi_0 "
+         "wifi_1 wifi_2 wifi_3 wifi_4 headset headset_ehs headset_bt headset_bt_off bluetooth bluetooth_off "
+         "bluetooth_acc bluetooth_acc_off type_korean type_smallletter type_capital type_num"},
+        {"title/", "breadcrumb num_bg_left num_bg_right"},
+        {"widget/softkey_", "ok ok_sel delete delete_sel cancel cancel_sel nextpage nextpage_sel"},
+        {"widget/focus_02_", "lefttop lefbottom righttop rightbottom"},
+        {"widget/focus_02_", "lefttop_sel lefbottom_sel righttop_sel rightbottom_sel"},
+        {"widget/inputbox_", "left left_sel mid mid_sel right right_sel"},
+        {"widget/", "checkbox checkbox_check checkbox_check_sel radio radio_sel list_focus list_focus_sel no_data"},
+        {"widget/popup_", "i 01_left 01_mid 01_right 02_left 02_mid 02_right 03"},
+        {"widget/", "confirm delete error_emoti"},
+        {"widget/loading_", "01 02 03 04 05 06 07 08"},
+        {"contact/contacts_", "group group_sel"},
+        {"", "checkbox_bg_left checkbox_bg_right call_hold_bg_right alarm_icon_02"},
+    };
+    for (const auto &folder : folders) {
+        const QStringList names = folder.second.split(' ');
+        for (const QString &name : names)
+            QVERIFY2(QImage(":/ui/images/" + folder.first + name + ".png").width() > 1, qPrintable(name));
+    }
 }
 
 PHONE_TEST_MAIN(RowPaintTest)
