@@ -177,6 +177,7 @@ private slots:
         QCOMPARE(turned(7, "n"), (List{1, 3, 3}));
         QCOMPARE(turned(7, "nn"), (List{2, 6, 6})); // a short page
         QCOMPARE(turned(7, "nnn"), (List{0, 0, 0}));
+        QCOMPARE(turned(6, "nn"), (List{0, 0, 0}));
         QCOMPARE(turned(7, "p"), (List{2, 6, 6}));
         QCOMPARE(turned(6, "p"), (List{1, 3, 3}));
         QCOMPARE(turned(7, "nnp"), (List{1, 3, 3}));

@@ -255,23 +255,32 @@ private slots:
 
     void deletedInASlot()
     {
-        static const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Return, Qt::Key_5, Qt::Key_Context2, Qt::Key_Escape};
-        for (int signal = 0; signal < 5; ++signal) {
+        static const Qt::Key keys[]
+            = {Qt::Key_Return, Qt::Key_Return, Qt::Key_5, Qt::Key_Context2, Qt::Key_Escape, Qt::Key_Return};
+        for (int signal = 0; signal < 6; ++signal) {
             QPointer<Box> box = new Box(m_screen.get());
             const auto remove = [&] { delete box; };
             box->setSkipAccept(signal == 1);
             switch (signal) {
-            case 0: connect(box->okButton(), &ImageButton::isHover, this, remove); break;
+            case 0:
+            case 5:
+                connect(box->okButton(), &ImageButton::isHover, this, [&](bool on) {
+                    if (on == (signal == 0))
+                        delete box;
+                });
+                break;
             case 1: connect(box, &MessageBoxBase::changeMessage, this, remove); break;
             case 2: connect(box, &MessageBoxBase::alarmTimeout, this, remove); break;
             default: connect(box, &QDialog::finished, this, remove); break;
             }
             QVERIFY(showAndActivate(box));
             box->startQuitTimer(signal == 2 ? 1 : 60000);
+            m_phone->core.setAlarm(true);
             press(keys[signal]);
             if (box)
                 release(keys[signal]);
             QTRY_VERIFY(!box);
+            QVERIFY2(signal != 5 || m_phone->core.alarm(), "the box went on after its end");
         }
     }
 
