@@ -48,7 +48,6 @@ private slots:
     void anotherCallIsRefused();
     void conferenceAndTransfer();
     void namesInTheCharsetOfThePhone();
-    void whatIsNoRequest_data();
     void whatIsNoRequest();
     void aPortThatIsTaken();
 
@@ -123,14 +122,13 @@ void CmTest::aCall_data()
 {
     QTest::addColumn<QByteArray>("request");
     QTest::addColumn<QStringList>("states");
-    QTest::newRow("answered") << dialer("NORMAL", "5551", "Zoë")
-                              << QStringList{"DIALING 5551 Zoë", "ALERT 5551 Zoë", "CONNECT 5551 Zoë"};
-    QTest::newRow("busy") << dialer("NORMAL", "5*00", "Zoë")
-                          << QStringList{"DIALING 5*00 Zoë", "BUSY 5*00 Zoë", "IDLE 5*00 Zoë"};
-    QTest::newRow("round hundreds are not busy")
-        << dialer("NORMAL", "500", "") << QStringList{"DIALING 500", "ALERT 500", "CONNECT 500"};
-    QTest::newRow("from a directory") << directory("NEW_CALL", "+49 89")
-                                      << QStringList{"DIALING +49 89", "ALERT +49 89", "CONNECT +49 89"};
+    const auto row = [](const QByteArray &request, const QStringList &states) {
+        QTest::newRow(qPrintable(states.last())) << request << states;
+    };
+    row(dialer("NORMAL", "5551", "Zoë"), {"DIALING 5551 Zoë", "ALERT 5551 Zoë", "CONNECT 5551 Zoë"});
+    row(dialer("NORMAL", "5*00", "Zoë"), {"DIALING 5*00 Zoë", "BUSY 5*00 Zoë", "IDLE 5*00 Zoë"});
+    row(dialer("NORMAL", "500", ""), {"DIALING 500", "ALERT 500", "CONNECT 500"}); // round hundreds are not busy
+    row(directory("NEW_CALL", "+49 89"), {"DIALING +49 89", "ALERT +49 89", "CONNECT +49 89"});
 }
 
 void CmTest::aCall()
@@ -186,35 +184,28 @@ void CmTest::namesInTheCharsetOfThePhone()
     QTRY_COMPARE(m_call->states.value(0), QString("DIALING 1 김"));
 }
 
-void CmTest::whatIsNoRequest_data()
-{
-    QTest::addColumn<QByteArray>("datagram");
-    QTest::addColumn<QByteArray>("fault");
-    const QByteArray good = directory("NEW_CALL", "1");
-    QTest::newRow("empty") << QByteArray() << QByteArray("it is no message");
-    QTest::newRow("garbage") << QByteArray("\x00\xff\x00 garbage", 11) << QByteArray("it is no message");
-    QTest::newRow("cut off") << good.chopped(1) << QByteArray("it is no message");
-    QTest::newRow("something behind it") << good + "x" << QByteArray("it is no message");
-    QTest::newRow("longer than the wire allows")
-        << directory("NEW_CALL", QByteArray(5000, '1')) << QByteArray("it is no message");
-    QTest::newRow("for another") << QByteArray(good).replace("CM/UI", "XCID/UI")
-                                 << QByteArray("it is not for the call manager");
-    QTest::newRow("another signature") << message_MakeFromValues(
-        {"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}})
-                                       << QByteArray("there is no such request");
-    QTest::newRow("nothing to dial") << dialer("NORMAL", "nobody", "") << QByteArray("there is nothing to dial");
-    QTest::newRow("a dial mode") << dialer("", "1", "") << QByteArray("there is no such dial mode");
-    QTest::newRow("a call mode") << dialer("NORMAL", "1", "", "VIDEO") << QByteArray("there is no such call mode");
-    QTest::newRow("a directory mode") << directory("OTHER", "1") << QByteArray("there is no such directory mode");
-}
-
 void CmTest::whatIsNoRequest()
 {
-    QFETCH(QByteArray, datagram);
-    QFETCH(QByteArray, fault);
-    send(datagram);
-    QVERIFY(logs("A datagram was dropped: " + fault));
-    // It still serves, and nothing came of the other.
+    const QByteArray good = directory("NEW_CALL", "1");
+    const QList<QPair<QByteArray, QByteArray>> faults = {
+        {QByteArray(), "it is no message"},
+        {QByteArray("\x00\xff\x00 garbage", 11), "it is no message"},
+        {good.chopped(1), "it is no message"},
+        {good + "x", "it is no message"},
+        {directory("NEW_CALL", QByteArray(5000, '1')), "it is no message"},
+        {QByteArray(good).replace("CM/UI", "XCID/UI"), "it is not for the call manager"},
+        {message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}), "there is no such request"},
+        {dialer("NORMAL", "nobody", ""), "there is nothing to dial"},
+        {dialer("", "1", ""), "there is no such dial mode"},
+        {dialer("NORMAL", "1", "", "VIDEO"), "there is no such call mode"},
+        {directory("OTHER", "1"), "there is no such directory mode"},
+    };
+    for (const auto &fault : faults) {
+        m_log.clear();
+        send(fault.first);
+        QVERIFY2(logs("A datagram was dropped: " + fault.second), fault.second.constData());
+    }
+    // It still serves, and nothing came of the others.
     send(directory("NEW_CALL", "7"));
     QTRY_COMPARE(m_call->states.value(0), QString("DIALING 7"));
 }
