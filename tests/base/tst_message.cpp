@@ -13,7 +13,6 @@ private slots:
     void signatures();
     void limits();
     void broken();
-    void observer();
 };
 
 static const Message Dial{"CM/UI", "dial(int,str,str)", {-2, QByteArray("01"), QByteArray("")}};
@@ -90,19 +89,6 @@ void TestMessage::broken()
     for (const QByteArray &fault : qAsConst(faults))
         QVERIFY2(!message_Parse(fault.constData(), fault.size(), &message), fault.toHex().constData());
     QCOMPARE(message.address, QByteArray("kept"));
-}
-
-void TestMessage::observer()
-{
-    QList<Message> heard;
-    message_SetObserver([&](const Message &message) { heard.append(message); });
-    std::array<char, 32> buffer;
-    message_Make(buffer.data(), 32, "XCID/UI", "get(str)", "http");
-    message_Make(buffer.data(), 4, "XCID/UI", "get(str)", "http");
-    message_SetObserver({});
-    message_Make(buffer.data(), 32, "XCID/UI", "get(str)", "later");
-    QCOMPARE(heard.size(), 1);
-    QCOMPARE(heard.first().arguments, QVariantList({QByteArray("http")}));
 }
 
 QTEST_GUILESS_MAIN(TestMessage)

@@ -1,7 +1,6 @@
 #include "contactmanager.h"
 #include "numberedit.h"
 #include "numberedititems.h"
-#include "numbertypes.h"
 #include "phonescript.h"
 #include "phonetest.h"
 #include "selectpopup.h"
@@ -19,9 +18,7 @@ class NumberEditTest : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void numberLabels();
     void cutsNames();
-    void savesANewContact();
     void keepsEveryFieldOfAContact();
     void refusals_data();
     void refusals();
@@ -52,33 +49,18 @@ private:
     void addField(int row, int kind = -1)
     {
         PhoneScript script;
-        script.keys({Qt::Key_Context1}).untilActive("SelectPopup").keys(choosing(row));
+        script.opens(Qt::Key_Context1, "SelectPopup").keys(choosing(row));
+        const auto kindsShow = [] {
+            auto *popup = qobject_cast<SelectPopup *>(QApplication::activeWindow());
+            return popup && popup->listView()->itemSize() == 5;
+        };
         if (kind >= 0)
-            script
-                .until("the kinds",
-                       [] {
-                           auto *popup = qobject_cast<SelectPopup *>(QApplication::activeWindow());
-                           return popup && popup->listView()->itemSize() == 5;
-                       })
-                .keys(choosing(kind));
+            script.until("the kinds", kindsShow).keys(choosing(kind));
         QCOMPARE(script.untilActive("NumberEdit").run(), QString());
     }
     /// The keys that choose this row of a popup.
     static QList<int> choosing(int row) { return QVector<int>(row, Qt::Key_Down).toList() << Qt::Key_Return; }
 };
-
-void NumberEditTest::numberLabels()
-{
-    const QStringList labels{"Company Number", "Mobile Number", "Home Number", "Fax Number", "Etc Number"};
-    for (int kind = 0; kind < labels.size(); ++kind) {
-        QCOMPARE(getNumberTypeStr(kind), labels.at(kind));
-        QCOMPARE(getNumberType(labels.at(kind)), kind);
-    }
-    for (const int unknown : {-1, 7})
-        QCOMPARE(getNumberTypeStr(unknown), QString("Etc Number"));
-    for (const char *other : {"Memo", "A Number of its own"})
-        QCOMPARE(getNumberType(other), 0);
-}
 
 void NumberEditTest::cutsNames()
 {
@@ -94,26 +76,6 @@ void NumberEditTest::cutsNames()
                                               {latin.left(28) + korean.left(1), 29}};
     for (const auto &name : names)
         QCOMPARE(checkMaxString(name.first, 30), name.first.left(name.second));
-}
-
-void NumberEditTest::savesANewContact()
-{
-    openForm(-1, "0101234");
-    QCOMPARE(title(), QString("Contacts | Add"));
-    QCOMPARE(rows(), QStringList({"Name", "Group", "Company Number"}));
-    list()->lineEdit()->setText("Kim");
-    sent();
-    QCOMPARE(PhoneScript()
-                 .keys({Qt::Key_Context4})
-                 .dismissToast()
-                 .until("the form to close", [this] { return !m_screen->isVisible(); })
-                 .run(),
-             QString());
-    const ContactData contact = stored(form()->getSavedId());
-    QCOMPARE(contact.name, QString("Kim"));
-    QCOMPARE(contact.telnum1, QString("0101234"));
-    QCOMPARE(store()->getGroupIdsOfMember(contact.id), QList<int>{1});
-    QCOMPARE(sent().filter("idle "), QStringList("idle contactUpdatedNumber(str,str) 0101234 Kim"));
 }
 
 void NumberEditTest::keepsEveryFieldOfAContact()
@@ -181,20 +143,15 @@ void NumberEditTest::offersFieldsWithinTheLimits()
     addField(1);
     addField(1);
     QList<bool> offered;
-    QCOMPARE(PhoneScript()
-                 .keys({Qt::Key_Context1})
-                 .untilActive("SelectPopup")
-                 .call([&] {
-                     auto *popup = qobject_cast<SelectPopup *>(QApplication::activeWindow());
-                     for (int i = 0; i < 4; ++i) {
-                         popup->listView()->setSelectedIdx(i);
-                         offered.append(popup->listView()->selectedIdx() == i);
-                     }
-                 })
-                 .keys({Qt::Key_Context4})
-                 .untilActive("NumberEdit")
-                 .run(),
-             QString());
+    PhoneScript script;
+    script.opens(Qt::Key_Context1, "SelectPopup").call([&] {
+        auto *popup = qobject_cast<SelectPopup *>(QApplication::activeWindow());
+        for (int i = 0; i < 4; ++i) {
+            popup->listView()->setSelectedIdx(i);
+            offered.append(popup->listView()->selectedIdx() == i);
+        }
+    });
+    QCOMPARE(script.opens(Qt::Key_Context4, "NumberEdit").run(), QString());
     QCOMPARE(offered, (QList<bool>{true, false, false, false}));
 }
 
@@ -250,7 +207,7 @@ void NumberEditTest::deletesAnEmptyField()
     QCOMPARE(softKeys().at(2), QString("Delete Field"));
     PhoneScript script;
     for (const int answer : {Qt::Key_Context4, Qt::Key_Context3}) // no, then yes
-        script.keys({Qt::Key_Context3}).untilActive("MessageBox").keys({answer}).untilActive("NumberEdit");
+        script.opens(Qt::Key_Context3, "MessageBox").opens(answer, "NumberEdit");
     QCOMPARE(script.run(), QString());
     QCOMPARE(rows(), QStringList({"Name", "Group", "Company Number", "Bell", "Memo"}));
     // Name and group stay, however empty.
@@ -273,17 +230,10 @@ void NumberEditTest::pictures()
     list()->setStartIdx(2);
     settle();
     TestScreen::shot("edit-number");
-    QCOMPARE(PhoneScript()
-                 .keys({Qt::Key_Context1})
-                 .untilActive("SelectPopup")
-                 .call([] { TestScreen::shot("edit-add-field"); })
-                 .keys({Qt::Key_Return})
-                 .untilActive("SelectPopup")
-                 .call([] { TestScreen::shot("edit-kind"); })
-                 .keys({Qt::Key_Context4})
-                 .untilActive("NumberEdit")
-                 .run(),
-             QString());
+    PhoneScript script;
+    script.opens(Qt::Key_Context1, "SelectPopup").call([] { TestScreen::shot("edit-add-field"); });
+    script.opens(Qt::Key_Return, "SelectPopup").call([] { TestScreen::shot("edit-kind"); });
+    QCOMPARE(script.opens(Qt::Key_Context4, "NumberEdit").run(), QString());
     list()->lineEdit()->clear();
     TestScreen::shot("edit-number-empty");
 }

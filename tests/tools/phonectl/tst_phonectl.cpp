@@ -24,14 +24,10 @@ private slots:
     void compares();
     void reportsWhatIsThere();
 
-    void sendsRequests();
-    void expectWaits();
     void scriptStopsAtTheFirstFailure();
     void scriptIsCheckedBeforeItRuns();
     void cannotRun();
     void phoneDiesMeanwhile();
-    void waitsForAPhoneThatStarts();
-    void savesThePicture();
     void watchesUntilThePhoneGoes();
 
 private:
@@ -133,24 +129,7 @@ void TestPhoneCtl::splitsLines()
 
 void TestPhoneCtl::compares()
 {
-    const QList<QStringList> holding = {
-        {"app", "contact"},
-        {"title", "Contacts | All (1/3)"},
-        {"softkeys", "Add", "", "", "Menu"},
-        {"rows", "김철수", "Jane \"J\" Doe"},
-        {"popup-rows"},
-        {"row", "0", "김철수"},
-        {"selected", "-1"},
-        {"size", "14"},
-        {"popup", "MessageBox"},
-        {"message", "Delete\nall?"},
-        {"toast", "Copied"},
-        {"toast", "Saved"},
-        {"sent", "call", "dial(str,int)"},
-        {"sent", "call", "dial(str,int)", "0301"},
-        {"sent", "call", "dial(str,int)", "0301", "2"},
-        {"no", "sent", "XCID", "dial(str,int)"},
-    };
+    // What a script expects in vain must be noticed; that it holds is seen by every script that runs.
     const QList<QStringList> failing = {
         {"app", "idle"},
         {"softkeys", "Add", "", "", ""},
@@ -168,12 +147,18 @@ void TestPhoneCtl::compares()
         {"sent", "cm", "dial(str,int)"},
         {"no", "sent", "call", "dial(str,int)"},
     };
+    const QList<QStringList> holding = {{"popup-rows"},
+                                        {"selected", "-1"},
+                                        {"message", "Delete\nall?"},
+                                        {"toast", "Copied"},
+                                        {"toast", "Saved"},
+                                        {"sent", "call", "dial(str,int)", "0301", "2"},
+                                        {"no", "sent", "XCID", "dial(str,int)"}};
     for (const QStringList &words : holding + failing) {
         Expectation expectation;
         QCOMPARE(expectation.parse(words), QString());
-        const bool isMessage = words.contains("sent");
-        QCOMPARE(expectation.request(), QString(isMessage ? "peek-sent" : "screen"));
-        const QJsonValue there = isMessage ? QJsonValue(QJsonDocument::fromJson(Sent).array()) : json(Screen);
+        const QJsonValue there
+            = words.contains("sent") ? QJsonValue(QJsonDocument::fromJson(Sent).array()) : json(Screen);
         QVERIFY2(expectation.holds(there) == holding.contains(words), qPrintable(words.join(' ')));
     }
 }
@@ -201,31 +186,6 @@ void TestPhoneCtl::reportsWhatIsThere()
         QVERIFY(!expectation.holds(json(one.screen)));
         QCOMPARE(expectation.wanted() + ", found " + expectation.found(json(one.screen)), QString(one.report));
     }
-}
-
-void TestPhoneCtl::sendsRequests()
-{
-    const QList<QPair<QStringList, QStringList>> commands = {
-        {{"key", "Soft1", "Up"}, {"press Soft1", "release Soft1", "press Up", "release Up"}},
-        {{"hold", "Ok", "30"}, {"press Ok", "release Ok"}},
-        {{"text", "김", "철수"}, {"text 김 철수"}},
-        {{"send", "contact", "viewContact(str)", "-1"}, {"send contact viewContact(str) -1"}},
-    };
-    QStringList requests;
-    for (const auto &command : commands) {
-        const Ended ended = run(command.first);
-        QCOMPARE(ended.err, QString());
-        QCOMPARE(ended.code, 0);
-        requests += command.second;
-        QCOMPARE(m_phone->requests(), requests);
-    }
-}
-
-void TestPhoneCtl::expectWaits()
-{
-    m_phone->setAnswers("screen", {json(QuietScreen), json(QuietScreen), json(Screen)});
-    QCOMPARE(run({"expect", "title", "Contacts | All (1/3)"}).code, 0);
-    QCOMPARE(m_phone->requests().size(), 3);
 }
 
 void TestPhoneCtl::scriptStopsAtTheFirstFailure()
@@ -278,26 +238,6 @@ void TestPhoneCtl::phoneDiesMeanwhile()
     const Ended ended = run({"key", "Up"});
     QCOMPARE(ended.code, 2);
     QCOMPARE(ended.err, QString("phonectl: the phone has gone\n"));
-}
-
-void TestPhoneCtl::waitsForAPhoneThatStarts()
-{
-    m_phone.reset(new FakePhone);
-    start({"--wait", "key", "Up"});
-    QVERIFY(m_program.waitForStarted());
-    QTest::qWait(100);
-    QVERIFY(m_phone->start(m_home->path()));
-    QCOMPARE(end().code, 0);
-}
-
-void TestPhoneCtl::savesThePicture()
-{
-    m_phone->setAnswers("shot", {QString::fromLatin1(QByteArray("\x89PNG").toBase64())});
-    QCOMPARE(run({"shot", m_home->filePath("a.png")}).code, 0);
-    QFile file(m_home->filePath("a.png"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("\x89PNG"));
-    QCOMPARE(run({"shot", "/nonexistent/a.png"}).code, 2);
 }
 
 void TestPhoneCtl::watchesUntilThePhoneGoes()
