@@ -7,8 +7,7 @@ class AppPayloadTest : public TestCase
 
 private slots:
     void roundTrips();
-    void refuses();
-    void readsShortPayloadsAsFarAsTheyGo();
+    void refusesWhatIsNoPayload();
 };
 
 using Items = QPair<QString, QVariantList>; // of a command
@@ -33,7 +32,7 @@ void AppPayloadTest::roundTrips()
     QCOMPARE(payload.toHex(), QByteArray("000000020041fffffffe"));
 }
 
-void AppPayloadTest::refuses()
+void AppPayloadTest::refusesWhatIsNoPayload()
 {
     const QList<Items> commands
         = {{"f(int)", {"seven"}}, {"f(str)", {"a", "b"}}, {"f(float)", {"1"}}, {"f(str", {"a"}}};
@@ -43,10 +42,6 @@ void AppPayloadTest::refuses()
         QVERIFY2(!AppPayload::encode(command.first, command.second, &payload, &fault), qPrintable(command.first));
         QVERIFY(!fault.isEmpty());
     }
-}
-
-void AppPayloadTest::readsShortPayloadsAsFarAsTheyGo()
-{
     // A length that asks for more than there is must not be believed.
     QCOMPARE(AppPayload::decode("f(str)", QByteArray::fromHex("7fffffff0041")), QVariantList());
     QCOMPARE(AppPayload::decode("f(int,str)", QByteArray::fromHex("000000050000")), QVariantList{5});

@@ -14,7 +14,6 @@ private slots:
     void withoutCalls();
     void showsTheCalls();
     void callsWithTheNameInThePhonesCharset();
-    void startTogglesWhatIsSeen();
 
 private:
     void addCall(const QString &number, const QString &name, int minutesAgo, int seconds = 0,
@@ -65,7 +64,11 @@ void HistoryTest::showsTheCalls()
     click(Qt::Key_Escape);
     QVERIFY(start());
     QCOMPARE(title(), QString("History | All (1/5)"));
-    click(Qt::Key_Context4);
+    // A start shows it again when something lies over it, and ends it when it is seen.
+    QDialog over;
+    QVERIFY(showAndActivate(&over));
+    QVERIFY(start());
+    app()->start(nullptr, nullptr);
     QVERIFY(!app()->isVisible());
 }
 
@@ -84,16 +87,6 @@ void HistoryTest::callsWithTheNameInThePhonesCharset()
                  (QVariantList{0, QByteArray("NORMAL"), QByteArray("5552"), QByteArray("\xb1\xe8\xc3\xb6\xbc\xf6"),
                                QByteArray("AUDIO"), 2, -1}));
     }
-}
-
-void HistoryTest::startTogglesWhatIsSeen()
-{
-    QVERIFY(start());
-    QDialog over;
-    QVERIFY(showAndActivate(&over));
-    QVERIFY(start());
-    app()->start(nullptr, nullptr);
-    QVERIFY(!app()->isVisible());
 }
 
 PHONE_TEST_MAIN(HistoryTest)

@@ -12,7 +12,6 @@ class RingTonesTest : public PhoneTest
 
 private slots:
     void lieInANewHome();
-    void aRemovedToneStaysAway();
 
 private:
     QList<QFileInfo> tones()
@@ -27,25 +26,17 @@ void RingTonesTest::lieInANewHome()
 {
     QVERIFY(tones().isEmpty());
     installRingTones(m_phone->home);
-    const QList<QFileInfo> files = tones();
-    QCOMPARE(files.size(), 7);
+    QCOMPARE(tones().size(), 7);
+    const QFileInfo first = tones().first();
+    // This is how forms build the path of the phone's own tone from its name.
+    QCOMPARE(first.filePath(), m_phone->core.ringtonePath() + "/basicring/" + first.baseName() + ".wav");
     SoundManager *sounds = m_phone->core.soundManager();
-    for (const QFileInfo &file : files) {
-        // This is how forms build the path of the phone's own tone from its name.
-        QCOMPARE(file.filePath(), m_phone->core.ringtonePath() + "/basicring/" + file.baseName() + ".wav");
-        QVERIFY(file.isWritable());
-        sounds->playSound(file.filePath(), false, "RING");
-        sounds->stopSound(false);
-        QCOMPARE(sent(), QStringList({"sound play(str,str) " + file.filePath() + " RING", "sound stop()"}));
-    }
+    sounds->playSound(first.filePath(), false, "RING");
+    sounds->stopSound(false);
     sounds->playSound("missing.wav", false, "RING");
-    QCOMPARE(sent(), QStringList());
-}
-
-void RingTonesTest::aRemovedToneStaysAway()
-{
-    installRingTones(m_phone->home);
-    QVERIFY(QFile::remove(tones().first().filePath()));
+    QCOMPARE(sent(), QStringList({"sound play(str,str) " + first.filePath() + " RING", "sound stop()"}));
+    // One that its owner has removed stays away, but for a phone without any.
+    QVERIFY(QFile::remove(first.filePath()));
     installRingTones(m_phone->home);
     QCOMPARE(tones().size(), 6);
     for (const QFileInfo &file : tones())
