@@ -29,6 +29,7 @@ private slots:
     void aContactAddedBehindItsBackIsCounted();
     void followsItsStores();
     void anEmptiedPhonebookShowsNothing();
+    void theLastPageGoesWithItsOnlyCell();
     void ignoresWhatItDoesNotKnow();
     void survivesAnyPayload();
     void presenceOfACell();
@@ -221,6 +222,19 @@ void ContactTest::anEmptiedPhonebookShowsNothing()
     m_phone->addContact("Back");
     tell("api2ui_noti_contact_changed()");
     QCOMPARE(m_contacts->names(), QStringList("Back"));
+}
+
+void ContactTest::theLastPageGoesWithItsOnlyCell()
+{
+    m_phone->addContacts(13);
+    open();
+    click(Qt::Key_Up);
+    click(Qt::Key_Context3);
+    PhoneScript script;
+    script.opens(Qt::Key_Context3, "MessageBox").keys({Qt::Key_Context3}).dismissToast();
+    QCOMPARE(script.run(), QString());
+    QCOMPARE(m_contacts->names().size(), 6);
+    QCOMPARE(m_contacts->names().first(), QString("Name 007"));
 }
 
 void ContactTest::ignoresWhatItDoesNotKnow()

@@ -183,7 +183,7 @@ void NumberEditTest::addsTheNumberItIsGiven()
 
 void NumberEditTest::cutsWhileTyping()
 {
-    openForm(-1, "1");
+    openForm(m_phone->addContact("Kim", {"1"}));
     QLineEdit *edit = list()->lineEdit();
     edit->setText(QString(29, 'x'));
     edit->setCursorPosition(3);
@@ -194,6 +194,10 @@ void NumberEditTest::cutsWhileTyping()
     QTRY_COMPARE(edit->text(), QString("1"));
     edit->setText("12a 3+*#");
     QCOMPARE(lineRow(2)->editText(), QString("123+*#"));
+    list()->setSelectedIdx(4); // the memo
+    QTRY_COMPARE(edit->text(), QString());
+    edit->setText(QString(59, 'x') + "김");
+    QCOMPARE(lineRow(4)->editText(), QString(59, 'x'));
 }
 
 void NumberEditTest::deletesAnEmptyField()
