@@ -23,6 +23,8 @@ public:
     /// The first place of the word from `from` on, or -1.
     int indexIn(const QString &text, int from) const
     {
+        if (m_span == 0)
+            return text.indexOf(m_word.at(0), from); // does the same for a single letter
         const ushort *letters = text.utf16();
         const int end = text.size() - m_span;
         int at = from;
