@@ -118,6 +118,7 @@ void DetailsTest::longTextsFlow()
         details->startTimer(); // the wait is over
         details->flowString();
         QCOMPARE(list()->item(3)->text(), flows ? text.mid(1) : text);
+        TestScreen::shot(QString("details-%1-wide").arg(width));
         QCOMPARE(details->getFocusedNumber(3), text);
         for (int i = 1; i < text.size() && flows; ++i)
             details->flowString();

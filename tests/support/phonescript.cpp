@@ -1,6 +1,7 @@
 #include "phonescript.h"
 
 #include "phonekey.h"
+#include "toast.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -55,9 +56,17 @@ PhoneScript &PhoneScript::untilFocus(const QByteArray &className)
     return until("the focus in " + className, [className] { return focusIsIn(className); });
 }
 
-PhoneScript &PhoneScript::dismissToast()
+PhoneScript &PhoneScript::dismissToast(QString *message)
 {
-    return untilFocus("Toast").keys({Qt::Key_Return}).until("the toast to go", [] { return !focusIsIn("Toast"); });
+    const auto read = [message] {
+        for (QObject *widget = QApplication::focusWidget(); widget && message; widget = widget->parent()) {
+            if (widget->inherits("Toast"))
+                *message = static_cast<Toast *>(widget)->message();
+        }
+    };
+    return untilFocus("Toast").call(read).keys({Qt::Key_Return}).until("the toast to go", [] {
+        return !focusIsIn("Toast");
+    });
 }
 
 static QString className(const QObject *object)

@@ -26,8 +26,8 @@ public:
     PhoneScript &opens(int key, const QByteArray &className) { return keys({key}).untilActive(className); }
     /// Waits until the focus is in a widget of that class.
     PhoneScript &untilFocus(const QByteArray &className);
-    /// Waits for a toast, sends it away with a key and waits until it is gone.
-    PhoneScript &dismissToast();
+    /// Waits for a toast, reads what it says, sends it away with a key and waits until it is gone.
+    PhoneScript &dismissToast(QString *message = nullptr);
 
     /// Runs all steps and returns when they are done; the reason of a failure, or an empty text.
     QString run();
