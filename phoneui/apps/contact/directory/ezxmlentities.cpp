@@ -28,13 +28,15 @@ const BuiltIn s_builtIns[] = {{"lt;", "&#60;", '<'},
 const std::size_t s_allowance = 1024 * 1024;
 const std::size_t s_allowancePerByte = 4;
 
-char builtIn(std::string_view name)
+/// The built-in entity that is referred to at `at`, or null.
+const BuiltIn *builtIn(const char *at, const char *end)
 {
+    const std::string_view rest(at + 1, static_cast<std::size_t>(end - at) - 1);
     for (const BuiltIn &known : s_builtIns) {
-        if (name == known.name.substr(0, known.name.size() - 1))
-            return known.character;
+        if (!rest.empty() && rest[0] == known.name[0] && rest.substr(0, known.name.size()) == known.name)
+            return &known;
     }
-    return '\0';
+    return nullptr;
 }
 
 /// The name between the mark at `at` and a semicolon; empty when no reference is written there.
@@ -123,6 +125,8 @@ EzxmlEntities::EzxmlEntities(EzxmlMemory *memory, std::size_t documentLength)
 
 const std::string *EzxmlEntities::replacement(const Names &names, std::string_view name)
 {
+    if (names.empty() || name.empty())
+        return nullptr;
     const auto found = names.find(name);
     return found == names.end() ? nullptr : &found->second;
 }
@@ -221,7 +225,8 @@ void EzxmlEntities::expandMark(Source *source, Kind kind)
     const bool inDocument = m_suspended.empty();
     const char c = *source->at;
     if (c == '&' || c == '%') {
-        if (!(c == '&' && expandNumber(source)) && !expandName(source, kind)) {
+        const bool isNumber = c == '&' && source->at + 1 < source->end && source->at[1] == '#';
+        if (isNumber ? !expandNumber(source) : !expandName(source, kind)) {
             m_output.put(c);
             ++source->at;
         }
@@ -239,10 +244,7 @@ void EzxmlEntities::expandMark(Source *source, Kind kind)
 
 bool EzxmlEntities::expandNumber(Source *source)
 {
-    const char *at = source->at + 1;
-    if (at >= source->end || *at != '#')
-        return false;
-    ++at;
+    const char *at = source->at + 2;
     unsigned base = 10;
     if (at < source->end && *at == 'x') {
         base = 16;
@@ -268,18 +270,17 @@ bool EzxmlEntities::expandName(Source *source, Kind kind)
     const bool parameter = *source->at == '%';
     if (parameter != (kind == EntityValue))
         return false;
-    const std::string_view name = referredName(source->at, source->end);
-    if (name.empty())
-        return false;
-    const char character = parameter ? '\0' : builtIn(name);
-    const std::string *text = character ? nullptr : replacement(parameter ? m_parameters : m_general, name);
-    if (!character && !text)
-        return false;
-    source->at = name.data() + name.size() + 1;
-    if (character) {
-        m_output.put(character);
+    const BuiltIn *known = parameter ? nullptr : builtIn(source->at, source->end);
+    if (known) {
+        m_output.put(known->character);
+        source->at += 1 + known->name.size();
         return true;
     }
+    const std::string_view name = referredName(source->at, source->end);
+    const std::string *text = replacement(parameter ? m_parameters : m_general, name);
+    if (!text)
+        return false;
+    source->at = name.data() + name.size() + 1;
     spend(text->size());
     // Only an entity that contains itself nests deeper than there are entities.
     m_overflown = m_overflown || m_suspended.size() > m_general.size() + m_parameters.size();

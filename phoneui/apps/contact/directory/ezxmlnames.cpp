@@ -39,7 +39,7 @@ std::size_t EzxmlNames::slot(const EzxmlName &name, const ezxml *parent) const
 {
     const std::size_t last = m_index.size() - 1;
     std::size_t at = hash(name, parent) & last;
-    while (m_index[at].parent && (m_index[at].parent != parent || !(m_entries[m_index[at].entry].name == name)))
+    while (m_index[at].parent && (m_index[at].parent != parent || !m_entries[m_index[at].entry].is(name)))
         at = (at + 1) & last;
     return at;
 }
@@ -49,7 +49,7 @@ void EzxmlNames::index(std::size_t entry)
     if ((m_indexed + 1) * 2 > m_index.size())
         growIndex();
     const ezxml *parent = m_entries[entry].first->parent;
-    m_index[slot(m_entries[entry].name, parent)] = {parent, entry};
+    m_index[slot(m_entries[entry].name(), parent)] = {parent, entry};
     ++m_indexed;
 }
 
@@ -70,6 +70,6 @@ void EzxmlNames::growIndex()
     m_index.assign(size, Slot{nullptr, 0});
     for (const Slot &old : before) {
         if (lives(old))
-            m_index[slot(m_entries[old.entry].name, old.parent)] = old;
+            m_index[slot(m_entries[old.entry].name(), old.parent)] = old;
     }
 }

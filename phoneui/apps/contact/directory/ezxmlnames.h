@@ -28,6 +28,8 @@ struct EzxmlName
         }
     }
 
+    EzxmlName(const char *from, std::size_t size, std::uint64_t itsKey) : text(from), length(size), key(itsKey) { }
+
     /// Whether the text up to `end` starts with this name.
     bool opens(const char *from, const char *end) const
     {
@@ -81,11 +83,11 @@ public:
     }
 
     /// Links an element behind its forerunners of the same name.
-    void append(Scope * scope, const EzxmlName &name, ezxml *element)
+    [[gnu::always_inline]] void append(Scope * scope, const EzxmlName &name, ezxml *element)
     {
-        const std::uint64_t bit = std::uint64_t(1) << ((name.key * 0x9e3779b97f4a7c15U) >> 58);
+        const std::uint64_t bit = std::uint64_t(1) << (name.key >> 8) % 64; // by the second letter
         if (scope->seen & bit) {
-            if (m_entries[scope->latest].name == name || find(scope, name, element->parent)) {
+            if (m_entries[scope->latest].is(name) || find(scope, name, element->parent)) {
                 Entry &entry = m_entries[scope->latest];
                 entry.last->next = element;
                 entry.last = element;
@@ -100,9 +102,13 @@ public:
 private:
     struct Entry
     {
-        EzxmlName name;
+        std::uint64_t key;
+        std::size_t length;
         ezxml *first;
         ezxml *last;
+
+        EzxmlName name() const { return EzxmlName(first->name, length, key); }
+        bool is(const EzxmlName &other) const { return key == other.key && name() == other; }
     };
 
     /// With more names than this a hash table takes the place of the scan.
@@ -115,7 +121,7 @@ private:
         if (entry - scope->first > s_scanned)
             return findHashed(scope, name, parent);
         while (entry-- > scope->first) {
-            if (m_entries[entry].name == name) {
+            if (m_entries[entry].is(name)) {
                 scope->latest = entry;
                 return true;
             }
@@ -130,7 +136,7 @@ private:
             for (ezxml *before = m_entries.top().first; before; before = before->next)
                 before->sibling = element;
         }
-        *m_entries.push() = {name, element, element};
+        *m_entries.push() = {name.key, name.length, element, element};
         if (scope->latest - scope->first >= s_scanned)
             indexTop(scope->first);
     }

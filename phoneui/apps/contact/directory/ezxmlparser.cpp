@@ -1,5 +1,6 @@
 #include "ezxmldocument.h"
 #include "ezxmlinstructions.h"
+#include "ezxmlleaf.h"
 #include "ezxmlnames.h"
 #include "ezxmltext.h"
 
@@ -54,6 +55,10 @@ private:
     char *readAttribute(char *at, const EzxmlName &tag);
     char *readCloseTag(char *at);
     char *readText(char *at);
+    /// Elements that come as they came before; what else comes is left.
+    char *readLeaves(char *at);
+    void learnLeaf(const EzxmlName &tag);
+    EzxmlLeaf *leafBehind(const EzxmlName &tag);
     /// The text behind an open tag; most elements hold nothing else and are closed here.
     char *readFirstText(char *at, ezxml *element, const EzxmlName &tag);
     char *readCharacterData(char *at);
@@ -62,20 +67,16 @@ private:
     char *readDoctype(char *at);
 
     ezxml *newElement(const EzxmlName &tag);
-    void link(ezxml *element, const EzxmlName &tag);
+    ezxml *newChild(const EzxmlName &tag);
+    char *readOpened(char *at, ezxml *element, const EzxmlName &tag);
+    void setText(ezxml *element, char *text);
     char **attributeList();
     void close();
+    /// Joins a text to those that the open element has so far.
     void addText(char *text, std::size_t length);
-    void append(const char *text, std::size_t length)
-    {
-        const std::size_t block = 16;
-        char *end = m_joined.push(length, block);
-        // Most runs are a line feed and spaces: with a copy of fixed size they need no loop.
-        if (length <= block && text >= m_root->s && text + block <= m_end)
-            std::memcpy(end, text, block);
-        else
-            std::memcpy(end, text, length);
-    }
+    /// The same for one that stands in the document as it is.
+    void addRun(char *text, std::size_t length);
+    void append(const char *text, std::size_t length) { std::memcpy(m_joined.push(length), text, length); }
     /// False after a fault.
     bool decode(char **text, std::size_t *length, EzxmlEntities::Kind kind);
     void finish();
@@ -91,6 +92,7 @@ private:
 
     ezxml_root *m_root;
     char *m_end;
+    const char *m_lastReach = nullptr; ///< from here on fewer than EzxmlText::reach bytes can be read
     char m_last = '\0';
     bool m_hasRoot = false;
     EzxmlMemory &m_memory;
@@ -102,6 +104,10 @@ private:
     /// The runs of text of those open elements that have several, one element's behind the other's.
     EzxmlStack<char> m_joined;
     EzxmlStack<char *> m_attributes; ///< names and values of the tag that is read
+    char *m_gap = nullptr; ///< where the last tag or the like ended
+    EzxmlLeaf m_leaves[64]; ///< what came behind a tag the last time, by a hash of its name
+    EzxmlLeaf m_nothing;
+    EzxmlLeaf *m_expected = &m_nothing;
     std::ptrdiff_t m_lostLines = 0; ///< line feeds that a NUL has replaced
 };
 
@@ -119,6 +125,8 @@ EzxmlParser::EzxmlParser(ezxml_root *root, char *text, std::size_t length)
     m_memory.expect(length * s_recordBytes);
     root->s = text;
     root->e = m_end;
+    if (distance(text, m_end) >= reach)
+        m_lastReach = m_end - reach;
 }
 
 void EzxmlParser::parse()
@@ -127,13 +135,16 @@ void EzxmlParser::parse()
     while (at && at < m_end) {
         *at = '\0'; // ends the text before it
         at = readMarkup(at + 1);
+        if (at)
+            at = readLeaves(at);
+        m_gap = at;
         if (at && *at != '<')
             at = readText(at);
     }
     finish();
 }
 
-char *EzxmlParser::readMarkup(char *at)
+[[gnu::always_inline]] inline char *EzxmlParser::readMarkup(char *at)
 {
     if (is(*at, NameStart))
         return readOpenTag(at);
@@ -152,7 +163,7 @@ char *EzxmlParser::readMarkup(char *at)
 
 char *EzxmlParser::readOpenTag(char *at)
 {
-    char *nameEnd = findNameEnd(at, m_end);
+    char *nameEnd = findNameEnd(at, m_lastReach);
     const EzxmlName tag(at, distance(at, nameEnd), m_end);
     m_attributes.truncate(0);
     at = nameEnd;
@@ -169,17 +180,24 @@ char *EzxmlParser::readOpenTag(char *at)
     ezxml *element = newElement(tag);
     if (isEmpty)
         return behind(at + 1);
-    return readFirstText(behind(at), element, tag);
+    if (at == nameEnd)
+        return readFirstText(behind(at), element, tag);
+    return readOpened(behind(at), element, tag);
 }
 
 char *EzxmlParser::readAttributes(char *at, const EzxmlName &tag)
 {
     for (;;) {
-        at = skip(at, Space);
+        if (*at == ' ')
+            ++at;
         if (is(*at, NameStart)) {
             at = readAttribute(at, tag);
             if (!at)
                 return nullptr;
+        } else if (*at == '>') {
+            return at;
+        } else if (is(*at, Space)) {
+            at = skip(at, Space);
         } else if (byte(at) == '>' || (*at == '/' && byte(at + 1) == '>')) {
             return at;
         } else {
@@ -191,26 +209,32 @@ char *EzxmlParser::readAttributes(char *at, const EzxmlName &tag)
 char *EzxmlParser::readAttribute(char *at, const EzxmlName &tag)
 {
     char *const name = at;
-    char *const nameEnd = findNameEnd(at, m_end);
-    at = skip(nameEnd, Space);
+    char *const nameEnd = findNameEnd(at, m_lastReach);
+    at = nameEnd;
+    if (is(*at, Space)) {
+        m_lostLines += *at == '\n';
+        at = skip(at, Space);
+    }
     if (*at != '=')
         return fail(at, "missing =");
-    at = skip(at + 1, Space);
+    ++at;
+    if (is(*at, Space))
+        at = skip(at, Space);
     const char quote = *at;
     if (quote != '"' && quote != '\'')
         return fail(at, "missing \"");
-    m_lostLines += *nameEnd == '\n';
     *nameEnd = '\0';
 
     char *value = at + 1;
-    char *mark = findValueMark(value, m_end, quote);
-    const bool isPlain = mark < m_end && *mark == quote;
-    if (!isPlain)
+    char *mark = findValueMark(value, m_lastReach, m_end, quote);
+    const bool isPlain = *mark == quote;
+    if (!isPlain) {
         mark = find(mark, m_end, quote);
-    if (!mark && m_last == quote)
-        mark = m_end;
-    if (!mark)
-        return fail(value, std::string("missing ") + quote);
+        if (!mark && m_last == quote)
+            mark = m_end;
+        if (!mark)
+            return fail(value, std::string("missing ") + quote);
+    }
 
     const EzxmlEntities::Kind kind = m_doctype.isEmpty()
         ? EzxmlEntities::AttributeText
@@ -249,9 +273,9 @@ char *EzxmlParser::readText(char *at)
 {
     char *mark = at;
     if (!m_open.isEmpty()) {
-        mark = findContentMark(at, m_end);
+        mark = findContentMark(at, m_lastReach, m_end);
         if (*mark == '<') {
-            addText(at, distance(at, mark));
+            addRun(at, distance(at, mark));
             return mark;
         }
     }
@@ -269,7 +293,7 @@ char *EzxmlParser::readText(char *at)
 
 char *EzxmlParser::readFirstText(char *at, ezxml *element, const EzxmlName &tag)
 {
-    char *mark = findContentMark(at, m_end);
+    char *mark = findContentMark(at, m_lastReach, m_end);
     if (*mark == '<' && mark[1] == '/' && tag.opens(mark + 2, m_end)) {
         char *closing = mark + 2 + tag.length;
         if (byte(closing) == '>') {
@@ -277,14 +301,73 @@ char *EzxmlParser::readFirstText(char *at, ezxml *element, const EzxmlName &tag)
                 *mark = '\0';
                 element->txt = at;
             }
+            learnLeaf(tag);
             return behind(closing);
         }
     }
+    return readOpened(at, element, tag);
+}
+
+[[gnu::always_inline]] inline char *EzxmlParser::readOpened(char *at, ezxml *element, const EzxmlName &tag)
+{
     *m_open.push() = {element, tag, nullptr, m_names.open(), m_joined.size(), nullptr, 0};
-    if (*mark != '<')
-        return readText(at);
-    addText(at, distance(at, mark));
-    return mark;
+    m_expected = leafBehind(tag);
+    return at;
+}
+
+void EzxmlParser::learnLeaf(const EzxmlName &tag)
+{
+    if (m_open.isEmpty() || !m_doctype.isEmpty())
+        return;
+    EzxmlLeaf *next = leafBehind(tag);
+    m_expected->learn(m_gap, tag, next);
+    m_expected = next;
+}
+
+inline EzxmlLeaf *EzxmlParser::leafBehind(const EzxmlName &tag)
+{
+    return &m_leaves[(tag.key * 0x9e3779b97f4a7c15U) >> 58];
+}
+
+char *EzxmlParser::readLeaves(char *at)
+{
+    while (at <= m_lastReach && m_expected->matches(at)) {
+        const EzxmlLeaf &leaf = *m_expected;
+        char *text = at + leaf.prefixLength();
+        char *mark = findContentMark(text, m_lastReach, m_end);
+        const bool isPlain = *mark == '<';
+        if (!isPlain)
+            mark = find(mark, m_end, '<');
+        if (!mark || mark > m_lastReach || !leaf.closes(mark))
+            return at;
+
+        addRun(at, leaf.space());
+        char *name = at + leaf.space() + 1;
+        const EzxmlName tag = leaf.nameAt(name);
+        ezxml *element = newChild(tag);
+        at = mark + leaf.closingLength();
+        m_expected = leaf.next();
+        // Not before what lies around them is copied: a load of more than was just stored has to wait.
+        name[-1] = name[tag.length] = *mark = '\0';
+        if (isPlain) {
+            if (mark > text)
+                element->txt = text;
+        } else {
+            std::size_t length = distance(text, mark);
+            if (!decode(&text, &length, EzxmlEntities::Content))
+                return nullptr;
+            if (length > 0)
+                setText(element, text);
+        }
+    }
+    return at;
+}
+
+inline void EzxmlParser::setText(ezxml *element, char *text)
+{
+    element->txt = text;
+    if (text < m_root->s || text > m_end)
+        element->flags |= EZXML_TXTM;
 }
 
 char *EzxmlParser::readCharacterData(char *at)
@@ -341,13 +424,11 @@ char *EzxmlParser::readDoctype(char *at)
 ezxml *EzxmlParser::newElement(const EzxmlName &tag)
 {
     ezxml *element = &m_root->xml;
-    if (m_hasRoot) {
-        element = m_memory.array<ezxml>(1);
-        EzxmlDocument::clear(element);
-        link(element, tag);
-    }
+    if (m_hasRoot)
+        element = newChild(tag);
+    else
+        element->name = const_cast<char *>(tag.text);
     m_hasRoot = true;
-    element->name = const_cast<char *>(tag.text);
     if (!m_attributes.isEmpty())
         element->attr = attributeList();
     if (!m_doctype.isEmpty())
@@ -355,8 +436,11 @@ ezxml *EzxmlParser::newElement(const EzxmlName &tag)
     return element;
 }
 
-void EzxmlParser::link(ezxml *element, const EzxmlName &tag)
+[[gnu::always_inline]] inline ezxml *EzxmlParser::newChild(const EzxmlName &tag)
 {
+    ezxml *element = m_memory.array<ezxml>(1);
+    EzxmlDocument::clear(element);
+    element->name = const_cast<char *>(tag.text);
     Open &parent = m_open.top();
     element->parent = parent.element;
     element->off = parent.textLength;
@@ -366,6 +450,7 @@ void EzxmlParser::link(ezxml *element, const EzxmlName &tag)
         parent.element->child = element;
     parent.lastChild = element;
     m_names.append(&parent.names, tag, element);
+    return element;
 }
 
 char **EzxmlParser::attributeList()
@@ -385,20 +470,33 @@ void EzxmlParser::close()
 {
     const Open &open = m_open.top();
     ezxml *element = open.element;
-    if (open.run) {
-        element->txt = open.run;
-        if (open.run < m_root->s || open.run > m_end)
-            element->flags |= EZXML_TXTM;
+    if (open.textLength > 0 && open.run) {
+        setText(element, open.run);
     } else if (open.textLength > 0) {
-        element->txt = m_memory.text(m_joined.data() + open.firstJoined, open.textLength);
+        element->txt = m_memory.text(m_joined.begin() + open.firstJoined, open.textLength);
         element->flags |= EZXML_TXTM;
         m_joined.truncate(open.firstJoined);
     }
     m_names.close(open.names);
     m_open.pop();
+    if (m_open.isEmpty())
+        m_expected = &m_nothing;
 }
 
-inline void EzxmlParser::addText(char *text, std::size_t length)
+[[gnu::always_inline]] inline void EzxmlParser::addRun(char *text, std::size_t length)
+{
+    const std::size_t block = 16;
+    Open &open = m_open.top();
+    if (open.textLength == 0)
+        open.run = text;
+    else if (open.run || length > block || text > m_lastReach)
+        return addText(text, length);
+    else // Most are a line feed and spaces: with a copy of fixed size they need no loop.
+        std::memcpy(m_joined.push(length, block), text, block);
+    open.textLength += length;
+}
+
+void EzxmlParser::addText(char *text, std::size_t length)
 {
     if (length == 0)
         return;

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdlib>
-#include <cstring>
 #include <type_traits>
 
 /// A stack of plain values in one piece of memory, for the inner loop of the XML reader: growing leaves new values
@@ -16,41 +15,45 @@ public:
     EzxmlStack() = default;
     EzxmlStack(const EzxmlStack &) = delete;
     EzxmlStack &operator=(const EzxmlStack &) = delete;
-    ~EzxmlStack() { std::free(m_values); }
+    ~EzxmlStack() { std::free(m_first); }
 
-    std::size_t size() const { return m_size; }
-    bool isEmpty() const { return m_size == 0; }
-    T *data() { return m_values; }
-    T &operator[](std::size_t index) { return m_values[index]; }
-    const T &operator[](std::size_t index) const { return m_values[index]; }
-    T &top() { return m_values[m_size - 1]; }
+    std::size_t size() const { return static_cast<std::size_t>(m_behind - m_first); }
+    bool isEmpty() const { return m_behind == m_first; }
+    T *begin() { return m_first; }
+    T *end() { return m_behind; }
+    T &operator[](std::size_t index) { return m_first[index]; }
+    const T &operator[](std::size_t index) const { return m_first[index]; }
+    T &top() { return m_behind[-1]; }
 
-    void truncate(std::size_t size) { m_size = size; }
-    void pop() { --m_size; }
+    void truncate(std::size_t size) { m_behind = m_first + size; }
+    void pop() { --m_behind; }
 
     /// A place on top, with room for `spare` more behind it.
     T *push(std::size_t count = 1, std::size_t spare = 0)
     {
-        if (m_size + count + spare > m_capacity)
-            grow(m_size + count + spare);
-        T *place = m_values + m_size;
-        m_size += count;
+        if (static_cast<std::size_t>(m_limit - m_behind) < count + spare)
+            grow(count + spare);
+        T *place = m_behind;
+        m_behind += count;
         return place;
     }
 
 private:
-    [[gnu::noinline]] void grow(std::size_t wanted)
+    [[gnu::noinline]] void grow(std::size_t missing)
     {
-        m_capacity = wanted < 32 ? 64 : wanted * 2;
-        void *values = std::realloc(static_cast<void *>(m_values), m_capacity * sizeof(T));
+        const std::size_t used = size();
+        const std::size_t capacity = 2 * (used + missing) + 32;
+        void *values = std::realloc(static_cast<void *>(m_first), capacity * sizeof(T));
         if (!values)
             std::abort();
-        m_values = static_cast<T *>(values);
+        m_first = static_cast<T *>(values);
+        m_behind = m_first + used;
+        m_limit = m_first + capacity;
     }
 
-    T *m_values = nullptr;
-    std::size_t m_size = 0;
-    std::size_t m_capacity = 0;
+    T *m_first = nullptr;
+    T *m_behind = nullptr;
+    T *m_limit = nullptr;
 };
 
 #endif

@@ -86,8 +86,11 @@ inline char *putUtf8(char *to, unsigned code)
     return to;
 }
 
+/// How many bytes the functions below read at once, up to the last place from which so many can be read.
+const std::size_t reach = 32;
+
 #ifdef __SSE2__
-const int blockSize = 16;
+const std::size_t blockSize = 16;
 
 inline __m128i block(const char *at)
 {
@@ -122,11 +125,24 @@ inline __m128i within(__m128i bytes, char low, char high)
 }
 #endif
 
-/// The first byte that is no NameChar.
-inline char *findNameEnd(char *at, const char *end)
+/// Whether two texts agree in their first `length` bytes, from 1 to 32, of which as many as `reach` may be read.
+inline bool same(const char *a, const char *b, std::size_t length)
 {
 #ifdef __SSE2__
-    for (; end - at >= blockSize; at += blockSize) {
+    unsigned different = ~bits(_mm_cmpeq_epi8(block(a), block(b))) & 0xffff;
+    if (length > blockSize)
+        different |= ~bits(_mm_cmpeq_epi8(block(a + blockSize), block(b + blockSize))) << blockSize;
+    return different << (reach - length) == 0;
+#else
+    return std::memcmp(a, b, length) == 0;
+#endif
+}
+
+/// The first byte that is no NameChar.
+inline char *findNameEnd(char *at, const char *lastReach)
+{
+#ifdef __SSE2__
+    for (; at <= lastReach; at += blockSize) {
         const __m128i bytes = block(at);
         const __m128i letters = within(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
         const __m128i others = _mm_andnot_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')), within(bytes, '-', ':'));
@@ -141,12 +157,11 @@ inline char *findNameEnd(char *at, const char *end)
 }
 
 /// The first of `<`, `&` and CR, or `end`.
-inline char *findContentMark(char *at, const char *end)
+inline char *findContentMark(char *at, const char *lastReach, const char *end)
 {
 #ifdef __SSE2__
-    // Two blocks a step: most texts end in the first step, so that its branch is foreseen.
-    for (; end - at >= 2 * blockSize; at += 2 * blockSize) {
-        if (const unsigned set = contentMarks(at) | contentMarks(at + blockSize) << blockSize)
+    for (; at <= lastReach; at += blockSize) {
+        if (const unsigned set = contentMarks(at))
             return at + __builtin_ctz(set);
     }
 #endif
@@ -156,10 +171,10 @@ inline char *findContentMark(char *at, const char *end)
 }
 
 /// The first quote, `&` or control character, or `end`.
-inline char *findValueMark(char *at, const char *end, char quote)
+inline char *findValueMark(char *at, const char *lastReach, const char *end, char quote)
 {
 #ifdef __SSE2__
-    for (; end - at >= blockSize; at += blockSize) {
+    for (; at <= lastReach; at += blockSize) {
         const __m128i bytes = block(at);
         const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1f)), bytes);
         if (const unsigned set = bits(_mm_or_si128(either(bytes, quote, '&'), control)))
