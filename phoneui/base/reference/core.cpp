@@ -143,6 +143,7 @@ bool Core::setLanguageName(const QString &name)
     QSettings settings(configFileName(SettingsConfig), QSettings::IniFormat);
     settings.setValue(QStringLiteral("Settings/Language"), name);
     settings.sync();
+    emit languageChanged();
     const QStringList running = m_apps.keys();
     for (const QString &app : running)
         sendAppMsg(app, QStringLiteral("changedLanguage()"), QByteArray(""));

@@ -4,6 +4,7 @@
 #include "baseappinterface.h"
 #include "basewidget.h"
 #include "favourite.h"
+#include "languagechoice.h"
 
 #include <QTimer>
 
@@ -35,6 +36,7 @@ private:
     void setupTail();
     void softKeyClicked(int idx);
     void callFavourite();
+    void chooseLanguage();
 
     void raiseStatus(const QStringList &items);
     void lowerStatus(const QStringList &items);
@@ -49,7 +51,9 @@ private:
 
     QTimer m_clockTimer;
     Favourite m_favourite;
+    LanguageChoice m_languageChoice;
     bool m_okPressed = false; ///< here, and not in what closed above
+    bool m_hashPressed = false; ///< the same
 };
 
 #endif
