@@ -52,6 +52,20 @@ def faults_of(catalogue, fresh):
                 yield f"{text!r} is part of the word for another kind of number"
 
 
+def hidden_words(language):
+    """Soft keys that would show the erase sign in the place of their words."""
+    words = {}
+    for catalogue in ROOT.rglob(f"translations/*{language}.ts"):
+        if not language and catalogue.stem != catalogue.parent.parent.name:
+            continue
+        for message in ElementTree.parse(catalogue).iter("message"):
+            words.setdefault(message.find("source").text, set()).add(message.find("translation").text)
+    erase = ElementTree.parse(ROOT / f"toolkit/translations/toolkit{language}.ts").find(
+        "context[name='Tail']/message[source='Erase']/translation").text
+    return [f"{language}: {source!r} is the word of the erase key" for source, texts in words.items()
+            if erase in texts and source != "Erase"]
+
+
 def main(action):
     faults = []
     for folder in sorted(ROOT.rglob("translations")):
@@ -66,6 +80,8 @@ def main(action):
                 shutil.copy(catalogue, fresh)
                 lupdate(folder.parent, fresh)
                 faults += [f"{catalogue.name}: {fault}" for fault in faults_of(catalogue, fresh)]
+    if action == "check":
+        faults += [fault for language in LANGUAGES for fault in hidden_words(language)]
     print("\n".join(faults), end="\n" if faults else "")
     return 1 if faults else 0
 

@@ -140,7 +140,7 @@
     <name>MessageForm</name>
     <message>
         <source>To</source>
-        <translation>받는 사람</translation>
+        <translation>수신</translation>
     </message>
     <message>
         <source>Text</source>

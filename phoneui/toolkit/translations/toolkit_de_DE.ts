@@ -5,7 +5,7 @@
     <name>GridSelectPopup</name>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>Abbruch</translation>
     </message>
 </context>
 <context>
@@ -50,14 +50,14 @@
     <name>SelectPopup</name>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>Abbruch</translation>
     </message>
 </context>
 <context>
     <name>Tail</name>
     <message>
         <source>Erase</source>
-        <translation>Löschen</translation>
+        <translation>Rücktaste</translation>
     </message>
 </context>
 </TS>

@@ -57,7 +57,7 @@
     <name>Tail</name>
     <message>
         <source>Erase</source>
-        <translation>Borrar</translation>
+        <translation>Retroceso</translation>
     </message>
 </context>
 </TS>

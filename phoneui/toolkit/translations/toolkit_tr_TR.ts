@@ -57,7 +57,7 @@
     <name>Tail</name>
     <message>
         <source>Erase</source>
-        <translation>Sil</translation>
+        <translation>Geri sil</translation>
     </message>
 </context>
 </TS>

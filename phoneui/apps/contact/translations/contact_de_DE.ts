@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>Abbruch</translation>
     </message>
     <message>
         <source>Enter group name</source>
@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>Abbruch</translation>
     </message>
     <message>
         <source>Enter name</source>
@@ -403,7 +403,7 @@
     </message>
     <message>
         <source>Add Field</source>
-        <translation>Neues Feld</translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Save</source>
@@ -469,7 +469,7 @@ Zuerst eine andere löschen.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <translation>Abbruch</translation>
     </message>
     <message>
         <source>Do you want to delete this Field?</source>

@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>Message</source>
-        <translation>Messaggio</translation>
+        <translation>Scrivi</translation>
     </message>
     <message>
         <source>Delete</source>

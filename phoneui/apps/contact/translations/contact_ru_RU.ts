@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Сохранить</translation>
+        <translation>Записать</translation>
     </message>
     <message>
         <source>Group Name</source>
@@ -407,7 +407,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Сохранить</translation>
+        <translation>Записать</translation>
     </message>
     <message>
         <source>Unassigned</source>
@@ -496,7 +496,7 @@ Delete other Number First</source>
     </message>
     <message>
         <source>Mobile</source>
-        <translation>Мобильный:</translation>
+        <translation>Сотовый:</translation>
     </message>
     <message>
         <source>Home</source>

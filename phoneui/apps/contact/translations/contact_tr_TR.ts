@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Delete All</source>
-        <translation>Tümünü sil</translation>
+        <translation>Temizle</translation>
     </message>
     <message>
         <source>Close</source>
@@ -250,7 +250,7 @@
     </message>
     <message>
         <source>Delete All</source>
-        <translation>Tümünü sil</translation>
+        <translation>Temizle</translation>
     </message>
     <message>
         <source>Deleted</source>

@@ -1,0 +1,66 @@
+#include "everyapp.h"
+
+#include "contactmanager.h"
+#include "control/apppayload.h"
+#include "qcalllist.h"
+#include "ringtones.h"
+
+SpeakingPhone::SpeakingPhone(const QString &language)
+{
+    installRingTones(home);
+    core.setLanguageName(language);
+    core.setLauncher([this](const QString &name, void *) {
+        if (BaseAppInterface *app = core.getAppMap().value(name))
+            app->start(nullptr, nullptr);
+    });
+    writeFile("config/phone_info.conf", "[Prov_Info]\nLoginMode=1\nId=kim\n");
+}
+
+void EveryApp::addPeople()
+{
+    ContactManager *store = phone.core.contactManager();
+    store->saveGroup(GroupData(-1, "Team", ""), false);
+    ContactData kim;
+    kim.name = "Kim";
+    kim.setNumbers({"100", "101", "102", "103", "104"}, {0, 1, 2, 3, 4});
+    kim.setEmails({"kim@example.org"});
+    kim.memo = "abc";
+    kim.bell = phone.core.ringtonePath() + "/basicring/Harp.wav";
+    store->saveContact(kim, false);
+    QList<int> ids;
+    for (const GroupData &group : store->getAllGroups(false))
+        ids.append(group.id);
+    store->saveGroupMember(store->getIdByUsingNameAndNumber("Kim", "100"), {ids.last()});
+    phone.addContacts(7);
+    send("contact", "api2ui_noti_contact_changed()", {});
+    send("aom", "searchContactResult(str,str)", {"Kim", "100"});
+    CallRecord record;
+    record.number = "100";
+    record.name = "Kim";
+    record.startedAt = QDateTime::currentDateTime();
+    phone.core.callList()->addCall(record);
+}
+
+void EveryApp::addGroups(int count)
+{
+    for (int i = 1; i <= count; ++i)
+        phone.core.contactManager()->saveGroup(GroupData(-1, QString("G%1").arg(i), ""), false);
+}
+
+void EveryApp::send(const QString &app, const QString &command, const QVariantList &items)
+{
+    QByteArray payload;
+    QString fault;
+    if (!AppPayload::encode(command, items, &payload, &fault))
+        qWarning("%s", qPrintable(fault));
+    phone.core.postAppMsg(app, command, payload);
+}
+
+void EveryApp::goHome()
+{
+    for (BaseAppInterface *app : {static_cast<BaseAppInterface *>(&contact), static_cast<BaseAppInterface *>(&message),
+                                  static_cast<BaseAppInterface *>(&keys), static_cast<BaseAppInterface *>(&history),
+                                  static_cast<BaseAppInterface *>(&call)})
+        app->end();
+    idle.start(nullptr, nullptr);
+}
