@@ -58,9 +58,10 @@ void EveryApp::send(const QString &app, const QString &command, const QVariantLi
 
 void EveryApp::goHome()
 {
-    for (BaseAppInterface *app : {static_cast<BaseAppInterface *>(&contact), static_cast<BaseAppInterface *>(&message),
-                                  static_cast<BaseAppInterface *>(&keys), static_cast<BaseAppInterface *>(&history),
-                                  static_cast<BaseAppInterface *>(&call)})
+    for (BaseAppInterface *app :
+         {static_cast<BaseAppInterface *>(&contact), static_cast<BaseAppInterface *>(&message),
+          static_cast<BaseAppInterface *>(&keys), static_cast<BaseAppInterface *>(&history),
+          static_cast<BaseAppInterface *>(&call)})
         app->end();
     idle.start(nullptr, nullptr);
 }

@@ -67,13 +67,15 @@ void TextEngine::setWidget(const QWidget *widget)
 
 void TextEngine::drawTextItem(const QPointF &at, const QTextItem &item)
 {
-    const auto toWindow = [this](const QRectF &rect) {
-        return painter()->transform().mapRect(rect).translated(m_origin);
-    };
+    const auto toWindow
+        = [this](const QRectF &rect) { return painter()->transform().mapRect(rect).translated(m_origin); };
     QRectF place = m_shown;
     if (painter()->hasClipping())
         place &= toWindow(painter()->clipBoundingRect());
-    const QRectF ink = toWindow(QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at));
+    QRectF letters = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
+    letters.setLeft(at.x());
+    letters.setWidth(item.width());
+    const QRectF ink = toWindow(letters);
     const QPointF start = painter()->transform().map(at) + m_origin;
     const QPointF end = start + QPointF(item.width(), 0);
     // Letters of another font continue the text.

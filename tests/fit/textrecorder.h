@@ -12,7 +12,7 @@ struct DrawnText
 {
     QString text;
     const QWidget *widget;
-    QRectF ink; ///< what the letters cover
+    QRectF ink; ///< what the letters cover, with the room at their sides
     QRectF place; ///< what shows of them: the widget inside its window, inside what the painter clipped to
     QPointF end; ///< of its baseline
 };

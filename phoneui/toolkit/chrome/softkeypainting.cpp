@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int SmallPointSize = 18;
-constexpr int SmallStretch = 88; // percent of its width: two words stand clear of the outline
+constexpr int SmallStretch = 90; // percent of its width: two words stand clear of the outline
 const QColor grey(187, 187, 187);
 
 /// The colours of the two designs of the phone.
