@@ -266,7 +266,7 @@
     </message>
     <message>
         <source>Delete Contact</source>
-        <translation>연락처 삭제</translation>
+        <translation>그룹에서 빼기</translation>
     </message>
     <message>
         <source>No</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Delete All Contacts</source>
-        <translation>모든 연락처 삭제</translation>
+        <translation>모두 빼기</translation>
     </message>
     <message>
         <source>Do you want to delete all of contacts in this group?</source>
