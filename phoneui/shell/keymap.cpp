@@ -1,13 +1,13 @@
 #include "keymap.h"
 
 #include "phonekey.h"
+#include "settingsfile.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QSettings>
 #include <QWindow>
 
 static const char defaultMap[] = "; PC key = phone key\n"
@@ -40,12 +40,11 @@ KeyMap::KeyMap(const QString &path, QObject *parent) : QObject(parent)
 
 void KeyMap::load(const QString &path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    settings.beginGroup("Keys");
-    const QStringList pcKeys = settings.childKeys();
+    const SettingsFile settings(path);
+    const QStringList pcKeys = settings.keys("Keys");
     for (const QString &pcKey : pcKeys) {
         const QKeySequence sequence(pcKey, QKeySequence::PortableText);
-        const QString phoneName = settings.value(pcKey).toString();
+        const QString phoneName = settings.value("Keys/" + pcKey);
         const int code = PhoneKey::code(phoneName);
         if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown || code == 0) {
             qWarning("Key map: left out \"%s=%s\"", qPrintable(pcKey), qPrintable(phoneName));

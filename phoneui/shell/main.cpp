@@ -1,5 +1,6 @@
 // The phone: makes or finds its home, starts the platform and the applications, and runs until it is told to end.
 
+#include "demodirectory.h"
 #include "displaysetup.h"
 #include "log.h"
 #include "phone.h"
@@ -20,7 +21,7 @@ constexpr int UsageError = 2;
 
 struct Options
 {
-    QString home, platform, language, script;
+    QString home, platform, language, script, directory;
     bool empty = false;
     bool peers = true;
 };
@@ -36,6 +37,8 @@ bool readOptions(const QStringList &arguments, Options *options, int *exitCode)
     parser.addOption({"no-peers", "Start no processes beside the phone: it calls nobody."});
     parser.addOption({"platform", "The Qt platform: offscreen (the default), linuxfb, eglfs, vnc.", "NAME"});
     parser.addOption({"language", "The language, such as de_DE; it is kept in the settings.", "NAME"});
+    parser.addOption({"directory", "The demonstration directory, for a new home and one that was set up for it.",
+                      "ID:PASSWORD@ADDRESS"});
     parser.addOption({"script", "Run this phonectl script and end with its exit code.", "FILE"});
     if (!parser.parse(arguments)) {
         QTextStream(stderr) << "phoneui: " << parser.errorText() << Qt::endl;
@@ -47,8 +50,9 @@ bool readOptions(const QStringList &arguments, Options *options, int *exitCode)
         *exitCode = 0;
         return false;
     }
-    *options = {parser.value("home"),   parser.value("platform"), parser.value("language"),
-                parser.value("script"), parser.isSet("empty"),    !parser.isSet("no-peers")};
+    *options
+        = {parser.value("home"),      parser.value("platform"), parser.value("language"), parser.value("script"),
+           parser.value("directory"), parser.isSet("empty"),    !parser.isSet("no-peers")};
     return true;
 }
 
@@ -122,6 +126,9 @@ int main(int argc, char **argv)
     }
     if (!phone.powerOn())
         return 1;
+    const DemoDirectory directory(options.directory);
+    if (directory.isValid())
+        directory.provision(home, isNew && !options.empty);
     if (options.peers)
         phone.startPeers();
     TerminationSignals termination;

@@ -2,8 +2,7 @@
 
 #include "conffile.h"
 #include "peerprocess.h"
-
-#include <QSettings>
+#include "settingsfile.h"
 
 namespace {
 
@@ -14,15 +13,14 @@ struct Peer
 };
 constexpr Peer table[] = {
     {"cm", "CM"},
+    {"xcid", "XCID"},
 };
 
 void writePort(const QString &section, quint16 port)
 {
-    QSettings ipc(getConfFilePath("COMMON", "IPC_CONF"), QSettings::IniFormat);
-    ipc.setValue(section + "/Port", port);
-    ipc.sync();
-    if (ipc.status() != QSettings::NoError)
-        qWarning("The port of %s cannot be written to %s", qPrintable(section), qPrintable(ipc.fileName()));
+    SettingsFile ipc(getConfFilePath("COMMON", "IPC_CONF"));
+    ipc.set(section + "/Port", QString::number(port));
+    ipc.save();
 }
 
 }

@@ -53,6 +53,8 @@ class SoundTest : public TestCase
         m_path = qgetenv("PATH");
         qputenv("PATH", m_dir->path().toLocal8Bit() + ":/usr/bin:/bin");
         m_sounds.reset(new SoundManager);
+        m_started.reset(new QSignalSpy(m_sounds.data(), &SoundManager::soundStarted));
+        m_stopped.reset(new QSignalSpy(m_sounds.data(), &SoundManager::soundStopped));
     }
     void tearDown() override
     {
@@ -62,9 +64,7 @@ class SoundTest : public TestCase
     }
 
 private slots:
-    void durations_data();
     void durations();
-    void filesThatAreNone();
     void listsTonesOfAFolder();
     void holdsForItsLength();
     void repeatsUntilItIsStopped();
@@ -99,115 +99,100 @@ private:
 
     QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<SoundManager> m_sounds;
+    QScopedPointer<QSignalSpy> m_started, m_stopped;
     QByteArray m_path;
 };
 
-void SoundTest::durations_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("milliseconds");
-    const QByteArray title = chunk("LIST", "odd");
-    const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
-
-    QTest::newRow("plain") << wav(format(Rate) + sound(250)) << 250;
-    QTest::newRow("a long format and chunks between") << wav(title + format(Rate, 24) + title + sound(250)) << 250;
-    QTest::newRow("chunks behind") << wav(format(Rate) + sound(250) + title) << 250;
-    QTest::newRow("streamed") << wav(format(Rate) + openData) << 1000;
-    QTest::newRow("cut off") << wav(format(Rate) + sound(250)).chopped(Rate / 10) << 150;
-    QTest::newRow("nothing in it") << wav(format(Rate) + sound(0)) << 0;
-    QTest::newRow("a day is the most") << wav(format(1) + sound(10000)) << 24 * 60 * 60 * 1000;
-
-    QTest::newRow("empty") << QByteArray() << -1;
-    QTest::newRow("text") << QByteArray("This is no sound at all.") << -1;
-    QTest::newRow("head alone") << wav({}) << -1;
-    QTest::newRow("another RIFF") << wav(format(Rate) + sound(250)).replace("WAVE", "AVI ") << -1;
-    QTest::newRow("no format") << wav(sound(250)) << -1;
-    QTest::newRow("no data") << wav(format(Rate) + title) << -1;
-    QTest::newRow("no speed") << wav(format(0) + sound(250)) << -1;
-    QTest::newRow("short format") << wav(chunk("fmt ", "\1\0\1\0") + sound(250)) << -1;
-    QTest::newRow("format cut off") << wav(format(Rate)).chopped(4) << -1;
-    QTest::newRow("chunk beyond the end") << wav(format(Rate) + "LIST" + number(0xFFFFFFF0u) + sound(250)) << -1;
-    QTest::newRow("endless chunks") << wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)) << -1;
-}
-
 void SoundTest::durations()
 {
-    QFETCH(QByteArray, content);
-    QTEST(wavDuration(makeFile("a.wav", content)), "milliseconds");
-}
-
-void SoundTest::filesThatAreNone()
-{
-    QCOMPARE(wavDuration(m_dir->filePath("missing.wav")), -1);
-    QCOMPARE(wavDuration(m_dir->path()), -1);
-    QCOMPARE(wavDuration("/dev/zero"), -1);
-    QCOMPARE(wavDuration(QString()), -1);
+    const QByteArray title = chunk("LIST", "odd");
+    const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
+    const struct
+    {
+        const char *name;
+        QByteArray content;
+        int milliseconds;
+    } files[] = {
+        {"plain", wav(format(Rate) + sound(250)), 250},
+        {"a long format and chunks between", wav(title + format(Rate, 24) + title + sound(250)), 250},
+        {"chunks behind", wav(format(Rate) + sound(250) + title), 250},
+        {"streamed", wav(format(Rate) + openData), 1000},
+        {"cut off", wav(format(Rate) + sound(250)).chopped(Rate / 10), 150},
+        {"nothing in it", wav(format(Rate) + sound(0)), 0},
+        {"a day is the most", wav(format(1) + sound(10000)), 24 * 60 * 60 * 1000},
+        {"empty", QByteArray(), -1},
+        {"text", "This is no sound at all.", -1},
+        {"head alone", wav({}), -1},
+        {"another RIFF", wav(format(Rate) + sound(250)).replace("WAVE", "AVI "), -1},
+        {"no format", wav(sound(250)), -1},
+        {"no data", wav(format(Rate) + title), -1},
+        {"no speed", wav(format(0) + sound(250)), -1},
+        {"short format", wav(chunk("fmt ", "\1\0\1\0") + sound(250)), -1},
+        {"format cut off", wav(format(Rate)).chopped(4), -1},
+        {"chunk beyond the end", wav(format(Rate) + "LIST" + number(0xFFFFFFF0u) + sound(250)), -1},
+        {"endless chunks", wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)), -1},
+    };
+    for (const auto &file : files)
+        QVERIFY2(wavDuration(makeFile("a.wav", file.content)) == file.milliseconds, file.name);
+    for (const QString &path : {m_dir->filePath("missing.wav"), m_dir->path(), QString("/dev/zero"), QString()})
+        QCOMPARE(wavDuration(path), -1);
 }
 
 void SoundTest::listsTonesOfAFolder()
 {
     const QDir dir(m_dir->path());
-    for (const char *folder : {"basicring", "download", "ring.wav"})
+    for (const char *folder : {"basicring", "ring.wav"})
         QVERIFY(dir.mkdir(folder));
     for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "note.txt", "basicring/Bell.wav",
-                             "basicring/Alarm.WAV", "basicring/note.txt", "download/mine.wav", "ring.wav/x.wav"})
+                             "basicring/Alarm.WAV", "basicring/note.txt", "ring.wav/x.wav"})
         makeFile(name, {});
-    const auto names = [&](const QString &folder, const QString &pattern) {
-        QList<QFileInfo> files;
-        m_sounds->addRingDir(files, folder, pattern);
-        QStringList found;
-        for (const QFileInfo &file : qAsConst(files))
-            found.append(dir.relativeFilePath(file.filePath()));
-        return found;
-    };
+    QList<QFileInfo> files;
+    m_sounds->addRingDir(files, dir.path(), "*ring*");
+    m_sounds->addRingDir(files, dir.filePath("missing"), "*.wav");
+    QStringList found;
+    for (const QFileInfo &file : qAsConst(files))
+        found.append(dir.relativeFilePath(file.filePath()));
     QCOMPARE(
-        names(dir.path(), "*ring*"),
+        found,
         QStringList({"a_ring.mp3", "b_ring.wav", "basicring/Alarm.WAV", "basicring/Bell.wav", "ring.wav/x.wav"}));
-    QCOMPARE(names(dir.filePath("download"), "*.wav"), QStringList({"download/mine.wav"}));
-    QCOMPARE(names(dir.filePath("missing"), "*.wav"), QStringList());
 }
 
 void SoundTest::holdsForItsLength()
 {
     makePlayer("echo 'no sound card' >&2; exit 1");
     const QString path = makeSound("a.wav", 300);
-    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
-    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
     m_sounds->playSound(path, false, "RING");
-    QCOMPARE(started.takeFirst(), QVariantList({path, "RING"}));
+    QCOMPARE(m_started->takeFirst(), QVariantList({path, "RING"}));
     QCOMPARE(m_sounds->playing(), path);
     // A player that cannot play does not end the sound.
     QTRY_COMPARE(played().size(), 1);
     QVERIFY(played().first().endsWith(path.toLocal8Bit()));
-    QVERIFY(stopped.isEmpty());
+    QVERIFY(m_stopped->isEmpty());
     QTRY_VERIFY(m_sounds->playing().isEmpty());
-    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_stopped->size(), 1);
     m_sounds->stopSound(false);
-    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_stopped->size(), 1);
 }
 
 void SoundTest::repeatsUntilItIsStopped()
 {
     makePlayer("");
-    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
-    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
     m_sounds->playSound(makeSound("a.wav", 20), true, "RING");
     QTRY_VERIFY(played().size() >= 3);
-    QCOMPARE(started.size(), 1);
-    QVERIFY(stopped.isEmpty());
+    QCOMPARE(m_started->size(), 1);
+    QVERIFY(m_stopped->isEmpty());
     m_sounds->stopSound(false);
-    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_stopped->size(), 1);
 }
 
 void SoundTest::theNextSoundEndsTheLast()
 {
     makePlayer("exec sleep 100");
     const QString second = makeSound("b.wav", 60000);
-    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
     m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
     QTRY_COMPARE(played().size(), 1);
     m_sounds->playSound(second, false, "RING");
-    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_stopped->size(), 1);
     QCOMPARE(m_sounds->playing(), second);
     QTRY_COMPARE(played().size(), 2);
     QTRY_VERIFY(!isRunning(played().first()));
@@ -222,15 +207,13 @@ void SoundTest::theNextSoundEndsTheLast()
 
 void SoundTest::whatCannotBePlayedIsSilence()
 {
-    QSignalSpy started(m_sounds.data(), &SoundManager::soundStarted);
-    QSignalSpy stopped(m_sounds.data(), &SoundManager::soundStopped);
     m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
-    QCOMPARE(started.size(), 1); // without a player, too
+    QCOMPARE(m_started->size(), 1); // without a player, too
     m_sounds->playSound(m_dir->filePath("missing.wav"), true, "RING");
     QVERIFY(m_sounds->playing().isEmpty());
-    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(m_stopped->size(), 1);
     m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
-    QCOMPARE(started.size(), 1);
+    QCOMPARE(m_started->size(), 1);
 }
 
 QTEST_GUILESS_MAIN(SoundTest)

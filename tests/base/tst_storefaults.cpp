@@ -1,33 +1,47 @@
 #include "contactmanager.h"
 #include "testcase.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QProcess>
+#include <QRandomGenerator>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <csignal>
+#include <cstdio>
 #include <functional>
 #include <sys/resource.h>
 #include <unistd.h>
 
-Q_DECLARE_METATYPE(std::function<void()>)
+using Action = std::function<void()>;
 
-/// The contact store on files that are broken, not ours, locked, closed to us, or have no room to grow.
+static ContactData person(const QString &name, const QStringList &numbers = {}, int memo = 0)
+{
+    ContactData contact;
+    contact.name = name;
+    contact.setNumbers(numbers, {});
+    contact.memo = QString(memo, QChar('m'));
+    return contact;
+}
+
+/// The contact store on files that are broken, not ours, locked, closed to us, or have no room to grow, and under
+/// a writer that is killed.
 class TestStoreFaults : public TestCase
 {
     Q_OBJECT
 
 private slots:
-    void movedAside_data();
     void movedAside();
-    void begunAnew_data();
     void begunAnew();
     void movedAsideTwice();
     void locked();
     void noSpace();
     void readOnlyFolder();
     void unreadableFile();
+    void killedWriter();
 
 private:
     void setUp() override { m_dir.reset(new QTemporaryDir); }
@@ -35,34 +49,23 @@ private:
 
     QString path() const { return m_dir->filePath("contacts.db"); }
     QStringList asideFiles() const { return QDir(m_dir->path()).entryList({"contacts.db.damaged-*"}); }
-    QByteArray content(const QString &file) const
+    static QByteArray content(const QString &file)
     {
         QFile f(file);
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
-    void overwrite(qint64 at, const QByteArray &bytes) const
+    static void overwrite(const QString &name, qint64 at, const QByteArray &bytes)
     {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(at));
-        file.write(bytes);
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(at) && file.write(bytes) == bytes.size());
     }
     void makeStore(int people) const
     {
         ContactManager store(path());
         QList<ContactImport> contacts;
-        for (int i = 0; i < people; ++i) {
-            ContactData contact;
-            contact.name = QStringLiteral("Person %1").arg(i);
-            contact.telnum1 = QString::number(i);
-            contacts.append({contact, {}});
-        }
+        for (int i = 0; i < people; ++i)
+            contacts.append({person(QStringLiteral("Person %1").arg(i), {QString::number(i)}), {}});
         QCOMPARE(store.importContacts(contacts), people);
-    }
-    static ContactData person(const QString &name)
-    {
-        ContactData contact;
-        contact.name = name;
-        return contact;
     }
 
     QScopedPointer<QTemporaryDir> m_dir;
@@ -70,7 +73,7 @@ private:
 
 /// Runs statements on a connection that the store knows nothing of; `meanwhile` runs while it is open.
 static void onOwnConnection(
-    const QString &path, const QStringList &statements, const std::function<void()> &meanwhile = [] {})
+    const QString &path, const QStringList &statements, const Action &meanwhile = [] {})
 {
     {
         QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "other");
@@ -83,75 +86,57 @@ static void onOwnConnection(
     QSqlDatabase::removeDatabase("other");
 }
 
-void TestStoreFaults::movedAside_data()
-{
-    QTest::addColumn<std::function<void()>>("spoil");
-    QTest::addColumn<QString>("reason");
-    const auto row = [](const char *name, const std::function<void()> &spoil, const char *reason) {
-        QTest::newRow(name) << spoil << QString(reason);
-    };
-    row(
-        "text", [this] { QFile::remove(path()), overwrite(0, QByteArray(5000, 'x')); }, "no database");
-    row(
-        "header cut off", [this] { QFile::resize(path(), 40); }, "no database");
-    row(
-        "header overwritten", [this] { overwrite(0, "SQLite format 2"); }, "no database");
-    row(
-        "half of it", [this] { QFile::resize(path(), QFileInfo(path()).size() / 2 / 4096 * 4096); }, "");
-    row(
-        "a page of zeros", [this] { overwrite(8192, QByteArray(4096, '\0')); }, "");
-    row(
-        "a page of noise", [this] { overwrite(12288, QByteArray(4096, '\xa7')); }, "");
-    row(
-        "foreign",
-        [this] {
-            QFile::remove(path());
-            onOwnConnection(path(), {"CREATE TABLE songs (title TEXT)"});
-        },
-        "another program");
-    row(
-        "newer", [this] { onOwnConnection(path(), {"PRAGMA user_version = 99"}); }, "version 99");
-    row(
-        "table missing", [this] { onOwnConnection(path(), {"DROP TABLE numbers"}); }, "numbers");
-    row(
-        "column missing", [this] { onOwnConnection(path(), {"ALTER TABLE contacts RENAME memo TO note"}); },
-        "memo");
-}
-
 void TestStoreFaults::movedAside()
 {
-    QFETCH(std::function<void()>, spoil);
-    QFETCH(QString, reason);
-    makeStore(500);
-    spoil();
-    const QByteArray spoilt = content(path());
-
-    expectWarning("moved .*contacts.db aside to .*contacts.db.damaged-[0-9-]+: .*" + reason);
-    ContactManager store(path());
-    QVERIFY(store.isOpen());
-    QCOMPARE(store.getCountOfContact(), 0);
-    QVERIFY(store.saveContact(person("Kim"), false));
-    QCOMPARE(asideFiles().size(), 1);
-    QCOMPARE(content(m_dir->filePath(asideFiles().first())), spoilt);
-}
-
-void TestStoreFaults::begunAnew_data()
-{
-    QTest::addColumn<std::function<void()>>("prepare");
-    QTest::newRow("missing") << std::function<void()>([] {});
-    QTest::newRow("empty") << std::function<void()>([this] { overwrite(0, ""); });
-    QTest::newRow("made but never filled")
-        << std::function<void()>([this] { onOwnConnection(path(), {"PRAGMA journal_mode = WAL"}); });
+    const auto put = [this](qint64 at, const QByteArray &bytes) { return [=] { overwrite(path(), at, bytes); }; };
+    const auto cut = [this](qint64 size) { return [=] { QFile::resize(path(), size); }; };
+    const auto sql = [this](const QString &statement) { return [=] { onOwnConnection(path(), {statement}); }; };
+    const struct
+    {
+        Action spoil;
+        QString reason;
+    } faults[] = {
+        {put(0, QByteArray(5000, 'x')), "no database"},
+        {cut(40), "no database"},
+        {put(0, "SQLite format 2"), "no database"},
+        {cut(4 * 4096), ""},
+        {put(8192, QByteArray(4096, '\0')), ""},
+        {put(12288, QByteArray(4096, '\xa7')), ""},
+        {[&] { QFile::remove(path()), sql("CREATE TABLE songs (title TEXT)")(); }, "another program"},
+        {sql("PRAGMA user_version = 99"), "version 99"},
+        {sql("DROP TABLE numbers"), "numbers"},
+        {sql("ALTER TABLE contacts RENAME memo TO note"), "memo"},
+    };
+    for (const auto &fault : faults) {
+        m_dir.reset(new QTemporaryDir);
+        makeStore(500);
+        fault.spoil();
+        const QByteArray spoilt = content(path());
+        expectWarning("moved .*contacts.db aside to .*contacts.db.damaged-[0-9-]+: .*" + fault.reason);
+        ContactManager store(path());
+        QVERIFY(store.isOpen());
+        QCOMPARE(store.getCountOfContact(), 0);
+        QVERIFY(store.saveContact(person("Kim"), false));
+        QCOMPARE(asideFiles().size(), 1);
+        QCOMPARE(content(m_dir->filePath(asideFiles().first())), spoilt);
+    }
 }
 
 void TestStoreFaults::begunAnew()
 {
-    QFETCH(std::function<void()>, prepare);
-    prepare();
-    ContactManager store(path());
-    QVERIFY(store.isOpen());
-    QVERIFY(store.saveContact(person("Kim"), false));
-    QVERIFY(asideFiles().isEmpty());
+    const QList<Action> starts = {
+        [] {}, // no file
+        [this] { overwrite(path(), 0, ""); },
+        [this] { onOwnConnection(path(), {"PRAGMA journal_mode = WAL"}); }, // made and never filled
+    };
+    for (const Action &start : starts) {
+        m_dir.reset(new QTemporaryDir);
+        start();
+        ContactManager store(path());
+        QVERIFY(store.isOpen());
+        QVERIFY(store.saveContact(person("Kim"), false));
+        QVERIFY(asideFiles().isEmpty());
+    }
 }
 
 void TestStoreFaults::movedAsideTwice()
@@ -160,10 +145,7 @@ void TestStoreFaults::movedAsideTwice()
         makeStore(1);
         // An emptied file whose log still holds the contacts must not lose the log.
         QFile::resize(path(), 0);
-        QFile log(path() + "-wal");
-        QVERIFY(log.open(QIODevice::WriteOnly));
-        log.write("contacts");
-        log.close();
+        overwrite(path() + "-wal", 0, "contacts");
         expectWarning("aside");
         QVERIFY(ContactManager(path()).isOpen());
         QFile::remove(path());
@@ -203,8 +185,7 @@ void TestStoreFaults::noSpace()
     std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
 
-    ContactData large = person("Large");
-    large.memo = QString(100000, 'm');
+    const ContactData large = person("Large", {}, 100000);
     int saved = 0;
     expectWarning("SqliteFile|SqliteStatement");
     while (saved < 100 && store.saveContact(large, false))
@@ -218,7 +199,7 @@ void TestStoreFaults::noSpace()
 }
 
 /// Runs as a user whom rights on files bind; the superuser has all of them.
-static void asPlainUser(const QString &folder, const std::function<void()> &work)
+static void asPlainUser(const QString &folder, const Action &work)
 {
     constexpr uid_t Nobody = 65534;
     const bool superuser = geteuid() == 0;
@@ -270,5 +251,90 @@ void TestStoreFaults::unreadableFile()
     QCOMPARE(ContactManager(path()).getCountOfContact(), 3);
 }
 
-QTEST_GUILESS_MAIN(TestStoreFaults)
+// The same row of operations for the writer and for who looks at what is left of it.
+enum Operation { Save, DeleteOldest, DeleteAll };
+
+static Operation operationAt(int step)
+{
+    return step % 12 == 11 ? DeleteAll : step % 3 == 2 ? DeleteOldest : Save;
+}
+
+static QString nameAt(int step)
+{
+    return QString("Person %1").arg(step);
+}
+
+/// Runs the operations one after the other and tells each that the store has acknowledged.
+static int write(const QString &database)
+{
+    ContactManager store(database);
+    for (int step = 0; step < 10000; ++step) {
+        int done = 0;
+        switch (operationAt(step)) {
+        case Save: done = store.saveContact(person(nameAt(step), {"1", "2"}, 200), false); break;
+        case DeleteOldest:
+            done = store.deleteContact(store.getAllContacts().value(0).id, ContactData::LocalContact);
+            break;
+        case DeleteAll: done = store.deleteAllContacts(); break;
+        }
+        if (!done)
+            return 1;
+        std::printf("%d\n", step);
+        std::fflush(stdout);
+    }
+    return 0;
+}
+
+static QStringList namesAfter(int steps)
+{
+    QStringList names;
+    for (int step = 0; step < steps; ++step) {
+        switch (operationAt(step)) {
+        case Save: names.append(nameAt(step)); break;
+        case DeleteOldest: names.removeFirst(); break;
+        case DeleteAll: names.clear(); break;
+        }
+    }
+    return names;
+}
+
+/// What the writer acknowledged is there, what it did not is there as a whole or not at all.
+void TestStoreFaults::killedWriter()
+{
+    QRandomGenerator random(20);
+    for (int round = 0; round < 100; ++round) {
+        m_dir.reset(new QTemporaryDir);
+        QProcess writer;
+        writer.start(QCoreApplication::applicationFilePath(), {"--write", path()});
+        QVERIFY(writer.waitForReadyRead(10000));
+        QThread::usleep(random.bounded(12000U));
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        const QByteArray acknowledged = writer.readAllStandardOutput();
+        const int steps = acknowledged.left(acknowledged.lastIndexOf('\n')).split('\n').last().toInt() + 1;
+
+        const ContactManager store(path());
+        QVERIFY(store.isOpen());
+        QStringList names;
+        const QList<ContactData> contacts = store.getAllContacts();
+        for (const ContactData &contact : contacts) {
+            names.append(contact.name);
+            QVERIFY(!contact.telnum1.isEmpty() && !contact.telnum2.isEmpty());
+            QCOMPARE(store.getGroupIdsOfMember(contact.id), QList<int>{1});
+        }
+        QVERIFY2(names == namesAfter(steps) || names == namesAfter(steps + 1),
+                 qPrintable(QString("%1 operations: %2").arg(steps).arg(names.join(", "))));
+    }
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--write")
+        return write(arguments.value(2));
+    TestStoreFaults test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_storefaults.moc"

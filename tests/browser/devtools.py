@@ -72,15 +72,13 @@ class Browser:
 
 
 class Page:
-    def __init__(self, browser, address, width=1366, height=900, pixel_ratio=1, touch=False):
+    def __init__(self, browser, address):
         self._browser = browser
         self._target = browser.send("Target.createTarget", url="about:blank")["targetId"]
         self._session = browser.send("Target.attachToTarget", targetId=self._target, flatten=True)["sessionId"]
         for domain in ("Page", "Runtime", "Log"):
             self._send(f"{domain}.enable")
-        self._send("Emulation.setDeviceMetricsOverride", width=width, height=height,
-                   deviceScaleFactor=pixel_ratio, mobile=False)
-        self._send("Emulation.setTouchEmulationEnabled", enabled=touch)
+        self._send("Emulation.setDeviceMetricsOverride", width=1366, height=900, deviceScaleFactor=1, mobile=False)
         self._send("Page.navigate", url=address)
 
     def evaluate(self, expression):
@@ -104,11 +102,10 @@ class Page:
         self.press(selector)
         self.release(selector)
 
-    def type(self, key, code, text=None):
-        """One stroke of the PC's keyboard; `text` is the character that it types, if any."""
-        down = {"text": text} if text else {}
-        self._send("Input.dispatchKeyEvent", type="keyDown", key=key, code=code, **down)
-        self._send("Input.dispatchKeyEvent", type="keyUp", key=key, code=code)
+    def type(self, key):
+        """One stroke of a key of the PC's keyboard that has the same name as its code."""
+        for kind in ("keyDown", "keyUp"):
+            self._send("Input.dispatchKeyEvent", type=kind, key=key, code=key)
 
     def save_picture(self, file_name):
         picture = self._send("Page.captureScreenshot", format="png")["data"]

@@ -17,7 +17,7 @@ public:
     bool open()
     {
         app.start(nullptr, nullptr);
-        return QTest::qWaitForWindowActive(&app);
+        return PhoneKeys::waitUntilActive(&app);
     }
     GridSelectView *grid() { return app.findChild<GridSelectView *>(); }
     /// The two-row chooser of the phonebooks, the one list that is no grid.

@@ -12,8 +12,10 @@
 
 using namespace PhoneKeys;
 
-/// Keys, each with the screen that is active after it.
+/// Keys, each with the screen that is active after it. Two steps are no keys but come from outside.
 using Road = QList<QPair<int, QString>>;
+enum Outside { Directory = -1, Answer = -2 };
+static constexpr auto Response = "http2ui_directory_service_response(str,int)";
 Q_DECLARE_METATYPE(Road)
 
 class DepthTest : public TestCase
@@ -67,6 +69,10 @@ QList<QPair<const char *, Road>> DepthTest::roads()
     const Road team = on(list, Qt::Key_Down, "GroupList");
     const Road group = on(team, Qt::Key_Return, "GroupDetail");
     const Road member = on(group, Qt::Key_Return, "DetailsDial");
+    const Road search{{Directory, "SearchDir"}};
+    const Road entry = on(on(search, Answer, "SearchDirResult"), Qt::Key_Return, "DirectorySearchDetail");
+    const Road save = on(entry, Qt::Key_Context1, "MessageBox");
+    const Road chooser = on(on(save, Qt::Key_Context3, "SearchAll"), Qt::Key_Down, "SearchAll");
     return {
         {"details", details},
         {"box", on(details, Qt::Key_Context3, "MessageBox")},
@@ -82,16 +88,41 @@ QList<QPair<const char *, Road>> DepthTest::roads()
         {"member", member},
         {"member's box", on(member, Qt::Key_Context3, "MessageBox")},
         {"new member", on(group, Qt::Key_Context2, "NumberEdit")},
+        {"directory", search},
+        {"its popup", on(search, Qt::Key_F7, "SelectPopup")},
+        {"results", on(search, Answer, "SearchDirResult")},
+        {"entry", entry},
+        {"entry's box", save},
+        {"entry as new", on(save, Qt::Key_Context2, "NumberEdit")},
+        {"contact for an entry", chooser},
+        {"entry into a contact", on(chooser, Qt::Key_Return, "NumberEdit")},
     };
 }
 
 /// The second start of the application is no command, but it can come at the same moments.
 void DepthTest::send(const QString &command)
 {
-    if (command == "start")
+    const QString answer = "run/directory-AbCdEf.xml";
+    if (command == "start") {
         m_screen->app.start(nullptr, nullptr);
-    else
+    } else if (command == Response) {
+        m_phone->writeFile(
+            answer, "<a><display count=\"30\"/><item><data><type>number</type><value>1</value></data></item></a>");
+        m_phone->core.postAppMsg("contact", command, Neighbours::payload({m_phone->home.path(answer)}));
+    } else {
         m_phone->core.postAppMsg("contact", command, QByteArray(""));
+    }
+}
+
+/// The directory goes with all that closes searches, and a first answer comes over its form.
+static QString leftAfter(const QString &command, const char *elsewhere, const Road &road)
+{
+    const bool inDirectory = road.first().first == Directory;
+    if (inDirectory && (command == "closeSearchAll()" || command.contains("disconnected")))
+        return "";
+    if (command == Response && inDirectory && (road.size() == 1 || road.last().first == Qt::Key_F7))
+        return "SearchDirResult";
+    return elsewhere ? QString(elsewhere) : road.last().second;
 }
 
 void DepthTest::commandsInTheMiddle_data()
@@ -109,6 +140,8 @@ void DepthTest::commandsInTheMiddle_data()
                     {"wpsm2ui_noti_device_disconnected(int)", "Contact"},
                     {"newContact(str)", "NumberEdit"},
                     {"viewContact(str)", "DetailsDial"},
+                    {"viewContactSearchDir(str)", "SearchDir"},
+                    {Response, nullptr},
                     {"closeSearchAll()", nullptr},
                     {"api2ui_noti_contact_changed()", nullptr},
                     {"BuddyStatusChanged()", nullptr},
@@ -118,7 +151,7 @@ void DepthTest::commandsInTheMiddle_data()
     for (const auto &road : all) {
         for (const auto &command : commands) {
             QTest::addRow("%s in %s", command.command, road.first)
-                << command.command << road.second << (command.left ? command.left : road.second.last().second);
+                << command.command << road.second << leftAfter(command.command, command.left, road.second);
         }
     }
 }
@@ -130,13 +163,24 @@ void DepthTest::commandsInTheMiddle()
     QFETCH(QString, left);
     const auto nothing = [] { return !QApplication::activeWindow(); };
     PhoneScript script;
-    for (const auto &step : qAsConst(road))
-        script.keys({step.first}).untilActive(step.second.toLatin1()).until("a moment to pass", pause());
-    script.call([&] { send(command); });
+    for (const auto &step : qAsConst(road)) {
+        if (step.first > 0)
+            script.keys({step.first});
+        else
+            script.call([=] { send(step.first == Directory ? "viewContactSearchDir(str)" : Response); });
+        script.untilActive(step.second.toLatin1()).until("a moment to pass", pause());
+    }
+    QString title;
+    script.call([&] {
+        title = m_phone->status.title();
+        send(command);
+    });
     if (left.isEmpty())
         script.until("everything to close", nothing);
     else
         script.untilActive(left.toLatin1());
+    if (command == Response && left == road.last().second)
+        script.until("a moment to pass", pause()).call([&] { QCOMPARE(m_phone->status.title(), title); });
     // From wherever it is, one command leads out again, and nothing is left on the stack.
     script.call([this] { send("CloseContact()"); }).until("everything to close", nothing);
     QCOMPARE(script.run(), QString());

@@ -5,37 +5,27 @@
 #include <QDialog>
 #include <QLineEdit>
 
+using namespace PhoneKeys;
+
 class WindowStackTest : public TestCase
 {
     Q_OBJECT
 
 private slots:
     void theNextBelowBecomesActive();
-    void aWindowShownAgainAtOnceIsActive();
-    void raisingChangesTheOrder();
     void aWindowThatGoesAndComesBackAtOnce();
-    void aWindowWithoutFocusIsNeverActive();
+    void raisingChangesTheOrder();
     void thePictureHasTheTopmostLast();
 };
-
-static void place(QWidget *window, const QRect &rect, Qt::GlobalColor colour)
-{
-    window->setWindowFlag(Qt::FramelessWindowHint);
-    window->setGeometry(rect);
-    QPalette palette;
-    palette.setColor(QPalette::Window, colour);
-    window->setPalette(palette);
-}
 
 void WindowStackTest::theNextBelowBecomesActive()
 {
     QWidget low;
     QLineEdit edit(&low);
     edit.setFocus();
-    QVERIFY(PhoneKeys::showAndActivate(&low));
     QDialog middle, high;
-    QVERIFY(PhoneKeys::showAndActivate(&middle));
-    QVERIFY(PhoneKeys::showAndActivate(&high));
+    for (QWidget *window : {&low, static_cast<QWidget *>(&middle), static_cast<QWidget *>(&high)})
+        QVERIFY(showAndActivate(window));
     // One that goes below the top changes nothing.
     middle.hide();
     QCoreApplication::processEvents();
@@ -45,60 +35,54 @@ void WindowStackTest::theNextBelowBecomesActive()
     QVERIFY(edit.hasFocus());
 }
 
-void WindowStackTest::aWindowShownAgainAtOnceIsActive()
+void WindowStackTest::aWindowThatGoesAndComesBackAtOnce()
 {
     QWidget screen;
     QDialog box(&screen);
-    QVERIFY(PhoneKeys::showAndActivate(&screen));
-    QVERIFY(PhoneKeys::showAndActivate(&box));
-    box.hide();
-    box.show();
-    QTRY_COMPARE(QApplication::activeWindow(), &box);
+    QLineEdit other;
+    QVERIFY(showAndActivate(&screen));
+    for (QWidget *window : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&other)}) {
+        QVERIFY(showAndActivate(window));
+        window->hide();
+        window->show();
+        QTRY_COMPARE(QApplication::activeWindow(), window);
+    }
+    QVERIFY(other.hasFocus());
 }
 
 void WindowStackTest::raisingChangesTheOrder()
 {
     QWidget a, b;
-    QVERIFY(PhoneKeys::showAndActivate(&a));
-    QVERIFY(PhoneKeys::showAndActivate(&b));
+    QVERIFY(showAndActivate(&a));
+    QVERIFY(showAndActivate(&b));
     QCOMPARE(TestScreen::windows().windows(), (QList<QWidget *>{&a, &b}));
     a.raise();
     QTRY_COMPARE(QApplication::activeWindow(), &a);
     QCOMPARE(TestScreen::windows().windows(), (QList<QWidget *>{&b, &a}));
-}
-
-void WindowStackTest::aWindowThatGoesAndComesBackAtOnce()
-{
-    QLineEdit low, high;
-    QVERIFY(PhoneKeys::showAndActivate(&low));
-    QVERIFY(PhoneKeys::showAndActivate(&high));
-    high.hide();
-    high.show();
-    QTRY_COMPARE(QApplication::activeWindow(), &high);
-    QVERIFY(high.hasFocus());
-}
-
-void WindowStackTest::aWindowWithoutFocusIsNeverActive()
-{
-    QWidget screen;
-    QVERIFY(PhoneKeys::showAndActivate(&screen));
-    QWidget bar(nullptr, Qt::WindowDoesNotAcceptFocus);
+    QWidget bar(nullptr, Qt::WindowDoesNotAcceptFocus); // is never active
     bar.show();
-    QTRY_COMPARE(QApplication::activeWindow(), &screen);
-    QCOMPARE(TestScreen::windows().top(), &screen);
+    QTRY_COMPARE(QApplication::activeWindow(), &a);
+    QCOMPARE(TestScreen::windows().top(), &a);
 }
 
 void WindowStackTest::thePictureHasTheTopmostLast()
 {
-    QWidget low, high;
-    place(&low, QRect(0, 26, 384, 134), Qt::blue);
-    place(&high, QRect(0, 100, 384, 60), Qt::red);
-    QWidget dim;
+    QWidget low, high, dim;
     dim.setAttribute(Qt::WA_TranslucentBackground);
-    place(&dim, QRect(0, 0, 384, 160), Qt::green);
-    QVERIFY(PhoneKeys::showAndActivate(&low));
-    QVERIFY(PhoneKeys::showAndActivate(&high));
-    QVERIFY(PhoneKeys::showAndActivate(&dim));
+    const struct
+    {
+        QWidget *window;
+        QRect place;
+        Qt::GlobalColor color;
+    } windows[] = {{&low, {0, 26, 384, 134}, Qt::blue},
+                   {&high, {0, 100, 384, 60}, Qt::red},
+                   {&dim, {0, 0, 384, 160}, Qt::green}};
+    for (const auto &one : windows) {
+        one.window->setWindowFlag(Qt::FramelessWindowHint);
+        one.window->setGeometry(one.place);
+        one.window->setPalette(QPalette(one.color));
+        QVERIFY(showAndActivate(one.window));
+    }
     const QImage picture = TestScreen::picture();
     QCOMPARE(picture.size(), QSize(384, 160));
     QCOMPARE(picture.pixelColor(10, 10), QColor(Qt::black));

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QTest>
-#include <QWidget>
 #include <QWindow>
 
 namespace PhoneKeys {
@@ -29,6 +28,12 @@ void click(Qt::Key key)
 {
     press(key);
     release(key);
+}
+
+void clickAll(const QList<int> &keys)
+{
+    for (const int key : keys)
+        click(Qt::Key(key));
 }
 
 void repeat(Qt::Key key)

@@ -44,6 +44,22 @@ PhoneScript &PhoneScript::untilActive(const QByteArray &className)
     });
 }
 
+static bool focusIsIn(const QByteArray &className)
+{
+    const QWidget *widget = QApplication::focusWidget();
+    return widget && widget->inherits(className.constData());
+}
+
+PhoneScript &PhoneScript::untilFocus(const QByteArray &className)
+{
+    return until("the focus in " + className, [className] { return focusIsIn(className); });
+}
+
+PhoneScript &PhoneScript::dismissToast()
+{
+    return untilFocus("Toast").keys({Qt::Key_Return}).until("the toast to go", [] { return !focusIsIn("Toast"); });
+}
+
 static QString className(const QObject *object)
 {
     return object ? object->metaObject()->className() : "nothing";

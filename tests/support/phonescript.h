@@ -22,6 +22,12 @@ public:
     PhoneScript &until(const QString &what, const std::function<bool()> &condition);
     /// Waits until a widget of that class is the one whose window is active.
     PhoneScript &untilActive(const QByteArray &className);
+    /// Presses a key and waits for the window that becomes active by it.
+    PhoneScript &opens(int key, const QByteArray &className) { return keys({key}).untilActive(className); }
+    /// Waits until the focus is in a widget of that class.
+    PhoneScript &untilFocus(const QByteArray &className);
+    /// Waits for a toast, sends it away with a key and waits until it is gone.
+    PhoneScript &dismissToast();
 
     /// Runs all steps and returns when they are done; the reason of a failure, or an empty text.
     QString run();

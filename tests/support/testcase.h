@@ -6,6 +6,9 @@
 #include <QStringList>
 #include <QTest>
 
+#include <initializer_list>
+#include <utility>
+
 /// The base of every test class: a Qt warning that was not announced fails the test function in which it came, and
 /// so does an announced one that stayed away, or a window left open.
 ///
@@ -33,5 +36,13 @@ private:
     QList<QRegularExpression> m_expected;
     QStringList m_unexpected;
 };
+
+/// The rows of a table of test data, each one struct: QFETCH(Case, c) gives it to the test function.
+template <class Case> void addCases(std::initializer_list<std::pair<const char *, Case>> cases)
+{
+    QTest::addColumn<Case>("c");
+    for (const auto &named : cases)
+        QTest::newRow(named.first) << named.second;
+}
 
 #endif

@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -23,6 +24,15 @@ bool openInput(QFile *file, const QString &fileName)
         return file->open(stdin, QIODevice::ReadOnly);
     file->setFileName(fileName);
     return file->open(QIODevice::ReadOnly);
+}
+
+/// In the order in which the contacts were added, which an import of them repeats.
+QList<ContactData> contactsById(const ContactManager &store)
+{
+    QList<ContactData> contacts = store.getAllContacts();
+    std::sort(contacts.begin(), contacts.end(),
+              [](const ContactData &a, const ContactData &b) { return a.id < b.id; });
+    return contacts;
 }
 
 /// The names of a contact's groups in their order. One that is in the built-in group alone has none.
@@ -106,7 +116,7 @@ int Phonebook::exportFile(const QString &fileName) const
         return 1;
     }
     const QHash<int, QString> names = groupNames(store);
-    const QList<ContactData> contacts = store.getAllContacts();
+    const QList<ContactData> contacts = contactsById(store);
     int written = 0;
     for (const ContactData &contact : contacts) {
         output.write(VCardBridge::write({contact, groupsOf(store, names, contact.id)}, contentOf(contact.picture)));
@@ -131,7 +141,7 @@ int Phonebook::list() const
     const QHash<int, QString> names = groupNames(store);
     QTextStream out(stdout);
     out.setCodec("UTF-8");
-    const QList<ContactData> contacts = store.getAllContacts();
+    const QList<ContactData> contacts = contactsById(store);
     for (const ContactData &contact : contacts) {
         QStringList numbers;
         for (int slot = 0; slot < ContactData::NumberCount; ++slot) {

@@ -258,6 +258,8 @@ VCardReading VCardBridge::read(const QByteArray &text)
     }
     const Addressee &card = cards.first();
     reading = readWords(card);
+    reading.position = card.title();
+    reading.department = card.department();
     for (const Field &field : Fields) {
         const QString exact = card.custom(Vendor, QLatin1String(field.property));
         if (!exact.isEmpty())

@@ -12,6 +12,8 @@ struct VCardReading
     ContactImport entry;
     QByteArray photo; ///< the embedded picture
     QString picture; ///< the path that the card names in its place, from this phone's own export
+    QString position; ///< what a contact has no place for but a directory has
+    QString department;
     int leftOut = 0; ///< numbers and addresses beyond what a contact holds
     QString problem; ///< why it is no contact; empty when it is one
 };

@@ -1,7 +1,6 @@
 #include "contact.h"
 
 #include "callmanager.h"
-#include "conffile.h"
 #include "contactmanager.h"
 #include "core.h"
 #include "detailsdial.h"
@@ -9,9 +8,13 @@
 #include "grouplist.h"
 #include "messagebox.h"
 #include "numberedit.h"
+#include "phonebookfile.h"
 #include "pluginverification.h"
 #include "screenwatch.h"
+#include "searchall.h"
+#include "searchdir.h"
 #include "status.h"
+#include "systemphonebooklistwidget.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
@@ -19,7 +22,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
-#include <QSettings>
 
 PHONEUI_EXPORT_PLUGIN_VERIFICATION
 
@@ -70,7 +72,10 @@ void Contact::closeChildren()
 {
     closeScreen(m_detailsDial);
     closeScreen(m_groupList);
+    closeScreen(m_searchAll);
+    closeScreen(m_searchAllOther);
     closeScreen(m_numberEdit);
+    closeScreen(m_searchDir);
 }
 
 void Contact::end()
@@ -78,6 +83,7 @@ void Contact::end()
     closeChildren();
     if (m_messageBox)
         m_messageBox->close();
+    closeScreen(m_systemPhonebookList);
     m_Directory = 0;
     theCore->setVisibleContact(false);
     if (isVisible())
@@ -86,15 +92,14 @@ void Contact::end()
 
 bool Contact::checkSystemPhonebookEnabled()
 {
-    const QString path = getConfFilePath("CONFIG", "PBOOK_CONF");
+    const QString path = PhonebookFile::path();
     if (path.isEmpty()) {
         qDebug() << "Contact::checkSystemPhonebookEnabled empty config file path:"
                  << "CONFIG"
                  << "PBOOK_CONF";
         return false;
     }
-    const QSettings phonebook(path, QSettings::IniFormat);
-    return phonebook.value("Info/Count", 0).toInt() != 0;
+    return PhonebookFile::announcedCount(path) != 0;
 }
 
 QString Contact::checkDomain(QString id)

@@ -5,6 +5,7 @@
 #include "basewidget.h"
 #include "buddyidstatustype.h"
 #include "contactdata.h"
+#include "mergedcontacts.h"
 
 #include <QPointer>
 
@@ -17,6 +18,9 @@ class MessageBox;
 class NumberEdit;
 class QDataStream;
 class QLabel;
+class SearchAll;
+class SearchDir;
+class SystemPhonebookListWidget;
 
 /// The contact application: the object that the shell talks to, and its first screen, the six-cell grid of all
 /// contacts, local ones and those of the paired mobile device in one list by name.
@@ -99,6 +103,7 @@ private:
     void setupChooserRows();
     void showGrid();
     void openPersonalPhonebook();
+    void openSystemPhonebook();
     bool isLastPage() const;
 
     void pressedUp(QKeyEvent *event);
@@ -110,6 +115,7 @@ private:
 
     MessageBox &messageBox();
     void openGroups();
+    void openSearch();
     void editSelected();
     void addContact();
     void deleteSelected();
@@ -121,8 +127,14 @@ private:
 
     void reload();
     void refreshIfVisible();
+    void searchForCaller(int mode, const QString &number);
     void handleNewContact(QDataStream &payload);
+    void handleViewContactSearchAll(QDataStream &payload);
+    void handleViewContactSearchDir(QDataStream &payload);
     void handleViewContact(QDataStream &payload);
+    void handleFindReceiver(QDataStream &payload);
+    void handleSearchContact(QDataStream &payload);
+    void handleDirectoryResponse(QDataStream &payload);
     void handleChangedLanguage(QDataStream &payload);
     void handlePhoneInit(QDataStream &payload);
     void handleContactChanged(QDataStream &payload);
@@ -133,6 +145,7 @@ private:
     void handleBuddyStatus(QDataStream &payload);
     void handleLogOut(QDataStream &payload);
     void handleCloseContact(QDataStream &payload);
+    void handleCloseSearchAll(QDataStream &payload);
     void contactChanged();
     void refreshPresence();
 
@@ -145,9 +158,13 @@ private:
     QPointer<DetailsDial> m_detailsDial;
     QPointer<NumberEdit> m_numberEdit;
     QPointer<GroupList> m_groupList;
+    QPointer<SearchAll> m_searchAll;
+    QPointer<SearchAll> m_searchAllOther; ///< a second place for one, closed with the others
+    QPointer<SearchDir> m_searchDir;
     MessageBox *m_messageBox = nullptr; ///< made on first use and kept
-    QList<ContactData> m_allContactList; ///< merged, by name
+    MergedContacts m_allContactList;
     ListView *m_selectListView = nullptr;
+    QPointer<SystemPhonebookListWidget> m_systemPhonebookList;
     bool m_systemPhonebookEnabled = false;
 };
 

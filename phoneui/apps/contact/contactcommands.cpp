@@ -14,6 +14,7 @@
 #include "notices.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchall.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
@@ -190,9 +191,9 @@ void Contact::tailFuncButtonClicked(int idx)
         void (Contact::*run)();
     };
     const Action actions[] = {
-        {GroupsKey, tr("Groups"), &Contact::openGroups},      {GroupsKey, tr("Edit"), &Contact::editSelected},
-        {SearchKey, tr("Add Contact"), &Contact::addContact}, {ModeKey, tr("Delete"), &Contact::deleteSelected},
-        {PageKey, tr("Close"), &Contact::closeAll},
+        {GroupsKey, tr("Groups"), &Contact::openGroups},   {GroupsKey, tr("Edit"), &Contact::editSelected},
+        {SearchKey, tr("Search"), &Contact::openSearch},   {SearchKey, tr("Add Contact"), &Contact::addContact},
+        {ModeKey, tr("Delete"), &Contact::deleteSelected}, {PageKey, tr("Close"), &Contact::closeAll},
     };
     const ScreenWatch watch(this);
     const QString label = tail->funcButtonText(idx);
@@ -224,6 +225,19 @@ void Contact::openGroups()
         m_groupList, this, [this] { return new GroupList(this); },
         [this](GroupList *) {
             setupStatus();
+            setupListViewItems(true, -1, qMax(0, m_listView->selectedIdx()), true);
+        });
+}
+
+void Contact::openSearch()
+{
+    m_Directory = 0;
+    runScreen(
+        m_searchAll, this, [this] { return new SearchAll(this, SearchAll::ViewMode, QString()); },
+        [this](SearchAll *) {
+            // A contact found may have been edited or deleted.
+            setupStatus();
+            reload();
             setupListViewItems(true, -1, qMax(0, m_listView->selectedIdx()), true);
         });
 }

@@ -9,23 +9,16 @@
 #include "listviewcontactitem.h"
 #include "wpsmcontactmanager.h"
 
-#include <algorithm>
-
 int Contact::loadContactData()
 {
-    QList<ContactData> contacts = theCore->contactManager()->getAllContacts();
-    contacts += theCore->wpsmContactManager()->getAllContacts();
+    const MergedContacts contacts(theCore->contactManager()->getAllContacts(),
+                                  theCore->wpsmContactManager()->getAllContacts());
     if (contacts.isEmpty())
         return 0;
-
-    // By name in code units; of one name the one read last comes first, so mobile contacts precede local ones.
-    std::reverse(contacts.begin(), contacts.end());
-    std::stable_sort(contacts.begin(), contacts.end(),
-                     [](const ContactData &a, const ContactData &b) { return a.name < b.name; });
-    m_allContactList.swap(contacts);
-    for (const ContactData &contact : qAsConst(m_allContactList)) {
-        if (contact.type == ContactData::LocalContact)
-            Thumbnail::make(contact.picture);
+    m_allContactList = contacts;
+    for (const ContactData *contact : qAsConst(m_allContactList)) {
+        if (contact->type == ContactData::LocalContact)
+            Thumbnail::make(contact->picture);
     }
     return m_allContactList.size();
 }

@@ -3,13 +3,17 @@
 #include "contact.h"
 #include "thumbnail.h"
 
+#include "answerfile.h"
 #include "contactmanager.h"
 #include "core.h"
 #include "detailsdial.h"
+#include "directorydocument.h"
 #include "gridselectview.h"
 #include "grouplist.h"
 #include "numberedit.h"
 #include "screenwatch.h"
+#include "searchall.h"
+#include "searchdir.h"
 #include "wpsmcontactmanager.h"
 
 #include <QDataStream>
@@ -27,7 +31,12 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
     // The text is matched as a whole; the blank within one of them is part of it.
     static const Command commands[] = {
         {"newContact(str)", &Contact::handleNewContact},
+        {"viewContactSearchAll(str)", &Contact::handleViewContactSearchAll},
+        {"viewContactSearchDir(str)", &Contact::handleViewContactSearchDir},
         {"viewContact(str)", &Contact::handleViewContact},
+        {"showSearchAllToFindReceiver()", &Contact::handleFindReceiver},
+        {"searchContact()", &Contact::handleSearchContact},
+        {"http2ui_directory_service_response(str,int)", &Contact::handleDirectoryResponse},
         {"changedLanguage()", &Contact::handleChangedLanguage},
         {"noti_phoneInit()", &Contact::handlePhoneInit},
         {"api2ui_noti_contact_changed()", &Contact::handleContactChanged},
@@ -38,6 +47,7 @@ void Contact::receiveMsg(const QString &command, const QByteArray &payload)
         {"BuddyStatusChanged()", &Contact::handleBuddyStatus},
         {"LogOutResponse(int)", &Contact::handleLogOut},
         {"CloseContact()", &Contact::handleCloseContact},
+        {"closeSearchAll()", &Contact::handleCloseSearchAll},
     };
     for (const Command &known : commands) {
         if (command == QLatin1String(known.text)) {
@@ -74,6 +84,46 @@ void Contact::handleNewContact(QDataStream &payload)
         });
 }
 
+/// Another application asked for the search: with it the contacts go, too.
+void Contact::searchForCaller(int mode, const QString &number)
+{
+    runScreen(
+        m_searchAll, this, [this, mode, number] { return new SearchAll(this, mode, number); },
+        [this](SearchAll *) {
+            reload();
+            update();
+            close();
+        });
+}
+
+void Contact::handleViewContactSearchAll(QDataStream &payload)
+{
+    QString number;
+    payload >> number;
+    searchForCaller(SearchAll::AddNumberMode, number);
+}
+
+void Contact::handleFindReceiver(QDataStream &)
+{
+    closeScreen(m_searchAll);
+    searchForCaller(SearchAll::ReceiverMode, QString());
+}
+
+void Contact::handleSearchContact(QDataStream &)
+{
+    searchForCaller(SearchAll::ProgramKeyMode, QString());
+}
+
+void Contact::handleViewContactSearchDir(QDataStream &payload)
+{
+    QString word;
+    payload >> word;
+    closeScreen(m_searchDir);
+    m_listView->hide();
+    runScreen(
+        m_searchDir, this, [this, word] { return new SearchDir(this, word); }, [this](SearchDir *) { close(); });
+}
+
 void Contact::handleViewContact(QDataStream &payload)
 {
     QString number;
@@ -88,6 +138,23 @@ void Contact::handleViewContact(QDataStream &payload)
             return details;
         },
         [this](DetailsDial *) { end(); });
+}
+
+void Contact::handleDirectoryResponse(QDataStream &payload)
+{
+    QString path;
+    qint32 number = 0;
+    payload >> path >> number;
+    qDebug() << "Contact::handleDirectoryResponse" << path << number;
+    const AnswerFile answer(theCore->home(), path);
+    if (!answer.isOpen())
+        return;
+    int totalCount = 0;
+    const QList<QList<DirectoryData>> results = loadData(answer.path().constData(), &totalCount);
+    if (m_searchAll)
+        m_searchAll->showSearchDirResult(results, totalCount);
+    else if (m_searchDir)
+        m_searchDir->showSearchDirResult(results, totalCount);
 }
 
 void Contact::handleChangedLanguage(QDataStream &)
@@ -171,6 +238,12 @@ void Contact::refreshPresence()
         return;
     reload();
     setupListViewItems(true, -1, cell, false);
+}
+
+void Contact::handleCloseSearchAll(QDataStream &)
+{
+    closeScreen(m_searchAll);
+    closeScreen(m_searchDir);
 }
 
 void Contact::handleCloseContact(QDataStream &)

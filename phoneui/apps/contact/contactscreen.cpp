@@ -10,7 +10,12 @@
 #include "grouplist.h"
 #include "listviewcontactitem.h"
 #include "numberedit.h"
+#include "screenwatch.h"
+#include "searchall.h"
+#include "searchdir.h"
 #include "status.h"
+#include "systemphonebook.h"
+#include "systemphonebooklistwidget.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
@@ -41,7 +46,8 @@ void Contact::setupStatus()
 void Contact::setStatusTitle(int idx)
 {
     const auto shows = [](const QWidget *child) { return child && child->isVisible(); };
-    const bool childHasTitle = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList);
+    const bool childHasTitle = shows(m_detailsDial) || shows(m_numberEdit) || shows(m_groupList)
+        || shows(m_searchAll) || shows(m_searchDir) || shows(m_systemPhonebookList);
     if (!isVisible() || !status || childHasTitle)
         return;
     const QString title = QString("%1 | %2 (%3/%4)").arg(tr("Contacts"), tr("All")).arg(idx + 1).arg(m_totalCount);
@@ -257,8 +263,18 @@ void Contact::openPersonalPhonebook()
     setupListViewItems(false, -1, 0, true);
 }
 
+void Contact::openSystemPhonebook()
+{
+    runScreen(
+        m_systemPhonebookList, this,
+        [this] { return new SystemPhonebookListWidget(SystemPhonebook::allKey(), this, Qt::WindowFlags()); },
+        [](SystemPhonebookListWidget *) {});
+}
+
 void Contact::clickedContactListViewItem(int idx)
 {
+    if (idx == SystemRow)
+        openSystemPhonebook();
     if (idx != PersonalRow)
         return;
     m_selectListView->hide();

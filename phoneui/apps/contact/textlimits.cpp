@@ -10,3 +10,8 @@ QString checkMaxString(const QString &text, int max)
     }
     return text;
 }
+
+QString cutWithDots(const QString &text, int most, int kept)
+{
+    return text.size() > most ? text.left(kept) + "..." : text;
+}

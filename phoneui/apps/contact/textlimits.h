@@ -7,4 +7,7 @@
 /// one and any other two. A wide character in the last place does not fit.
 QString checkMaxString(const QString &text, int max);
 
+/// A text of more than `most` characters as its first `kept` and three dots.
+QString cutWithDots(const QString &text, int most, int kept);
+
 #endif

@@ -36,7 +36,7 @@ public:
     void setEmails(const QStringList &emails);
 
     /// The slots by position, 0 to NumberCount - 1; an index out of range reads as empty and writes nothing.
-    QString number(int slot) const;
+    const QString &number(int slot) const;
     Telnum_Type numberType(int slot) const;
     void setNumber(int slot, const QString &number, Telnum_Type type);
     /// The addresses by position, 0 to EmailCount - 1.

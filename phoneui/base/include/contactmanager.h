@@ -37,7 +37,7 @@ public:
     /// False when the database can be neither opened nor made; reads are then empty and writes return zero.
     bool isOpen() const;
 
-    /// All local contacts in the order of their ids.
+    /// All local contacts in the order of their names, of one name by id.
     QList<ContactData> getAllContacts() const;
     /// The contact, or an empty one with id 0.
     ContactData getSpecificContactDetail(int id) const;
@@ -48,7 +48,8 @@ public:
     ContactData getContactByUsingNumber(const QString &number) const;
     /// The newest contact of that name with that first number, or -1.
     int getIdByUsingNameAndNumber(const QString &name, const QString &number) const;
-    /// The contacts whose name, initials or numbers hold the word; all of them for an empty word.
+    /// The contacts whose name, initials or numbers hold the word, in the same order; all of them for an empty
+    /// word.
     QList<ContactData> getContactSearchResults(const QString &word) const;
     /// Presence by buddy id.
     QHash<QString, buddyIdStatusType> getPresenceStatus() const;

@@ -25,6 +25,10 @@ public:
     QString controlSocket() const { return path("run/phonectl.sock"); }
     /// The socket of the peers, which send application commands to the shell.
     QString peerSocket() const { return path("run/shell.sock"); }
+    /// The names of the HTTP client's answers, as QTemporaryFile takes them.
+    QString answerTemplate() const { return path("run/directory-XXXXXX.xml"); }
+    /// Whether a file in the run folder is such an answer by its name.
+    static bool isAnswerName(const QString &name);
 
     /// Makes the folders (the run folder for the user alone) and those configuration files that are missing.
     /// False, with the reason in the log, when the folder cannot be used.

@@ -26,7 +26,7 @@ public:
     /// The name of the connected device, empty without one.
     QString deviceName() const;
 
-    /// All contacts of the device in its own order, none of them of the local type.
+    /// All contacts of the device in the order of their names, of one name in its own; none is of the local type.
     QList<ContactData> getAllContacts() const;
     int getCountOfContact() const;
     /// The contact, or an empty one with id 0.

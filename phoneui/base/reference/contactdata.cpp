@@ -65,9 +65,10 @@ void ContactData::setEmails(const QStringList &emails)
         this->*Emails[slot] = emails.value(slot);
 }
 
-QString ContactData::number(int slot) const
+const QString &ContactData::number(int slot) const
 {
-    return isSlot(slot) ? this->*Numbers[slot] : QString();
+    static const QString none;
+    return isSlot(slot) ? this->*Numbers[slot] : none;
 }
 
 ContactData::Telnum_Type ContactData::numberType(int slot) const

@@ -2,8 +2,6 @@
 
 #include "groupdata.h"
 
-#include <QSet>
-
 #define CONTACT_COLUMNS "id, name, picture, email1, email2, email3, memo, bell, buddy_id, extra"
 
 namespace {
@@ -66,14 +64,13 @@ ContactDatabase::ContactDatabase(const QString &path, SqliteFile::Access access)
 {
 }
 
-QList<ContactData> ContactDatabase::allContacts() const
+bool ContactDatabase::readContacts(QList<ContactData> *contacts) const
 {
-    QList<ContactData> contacts;
     SqliteStatement rows = m_file.statement("SELECT " CONTACT_COLUMNS " FROM contacts ORDER BY id");
     SqliteStatement numbers
         = m_file.statement("SELECT contact_id, slot, kind, number FROM numbers ORDER BY contact_id");
     if (!rows.run() || !numbers.run())
-        return contacts;
+        return false;
     // Both come in the order of the ids, so they are merged as they are read.
     bool more = numbers.next();
     while (rows.next()) {
@@ -83,9 +80,9 @@ QList<ContactData> ContactDatabase::allContacts() const
         for (; more && numbers.number(0) == contact.id; more = numbers.next())
             contact.setNumber(numbers.number(1) - 1, numbers.text(3),
                               static_cast<ContactData::Telnum_Type>(numbers.number(2)));
-        contacts.append(contact);
+        contacts->append(contact);
     }
-    return contacts;
+    return true;
 }
 
 ContactData ContactDatabase::contact(int id) const
@@ -118,49 +115,28 @@ QList<int> ContactDatabase::ids(const char *sql, int key) const
     return ids;
 }
 
-QList<ContactData> ContactDatabase::search(const QString &word)
+QList<ContactData> ContactDatabase::allContacts()
 {
-    if (word.isEmpty())
-        return allContacts();
-    refreshLines();
-    const QVector<int> found = m_lines.matches(word);
-    QList<ContactData> contacts;
-    // Beyond this share of all contacts one pass over them is faster than asking for each.
-    constexpr int Share = 16;
-    if (found.size() <= m_lines.size() / Share) {
-        for (const int id : found)
-            contacts.append(contact(id));
-        return contacts;
-    }
-    const QSet<int> wanted(found.begin(), found.end());
-    const QList<ContactData> all = allContacts();
-    for (const ContactData &candidate : all) {
-        if (wanted.contains(candidate.id))
-            contacts.append(candidate);
-    }
-    return contacts;
+    refreshSearch();
+    return m_search.contacts();
 }
 
-void ContactDatabase::refreshLines()
+QList<ContactData> ContactDatabase::search(const QString &word)
 {
-    if (!m_lines.needsReload(m_file.dataVersion()))
+    refreshSearch();
+    return m_search.matches(word);
+}
+
+void ContactDatabase::refreshSearch()
+{
+    const int version = m_file.dataVersion();
+    if (!m_search.needsReload(version))
         return;
-    m_lines.clear();
-    SqliteStatement names = m_file.statement("SELECT id, name FROM contacts ORDER BY id");
-    SqliteStatement numbers = m_file.statement("SELECT contact_id, number FROM numbers ORDER BY contact_id, slot");
-    if (!names.run() || !numbers.run())
-        return;
-    bool more = numbers.next();
-    while (names.next()) {
-        const int id = names.number(0);
-        QStringList own;
-        while (more && numbers.number(0) < id)
-            more = numbers.next();
-        for (; more && numbers.number(0) == id; more = numbers.next())
-            own.append(numbers.text(1));
-        m_lines.append(id, names.text(1), own);
-    }
-    m_lines.setLoaded(m_file.dataVersion());
+    QList<ContactData> contacts;
+    if (readContacts(&contacts))
+        m_search.load(contacts, version);
+    else
+        m_search.clear();
 }
 
 int ContactDatabase::insert(const ContactData &contact)

@@ -2,7 +2,7 @@
 #define CONTACTDATABASE_H
 
 #include "contactdata.h"
-#include "searchlines.h"
+#include "contactsearch.h"
 #include "sqlitefile.h"
 
 /// The tables of contacts, numbers, groups and memberships in one file, the phone's own or a mobile device's.
@@ -13,7 +13,8 @@ public:
 
     SqliteFile &file() { return m_file; }
 
-    QList<ContactData> allContacts() const;
+    /// All contacts in the order of their names, of one name by id. They stay in memory until the file changes.
+    QList<ContactData> allContacts();
     /// The contact, or an empty one with id 0.
     ContactData contact(int id) const;
     QList<ContactData> search(const QString &word);
@@ -30,15 +31,16 @@ public:
     /// The id of the group of that name, which is made when there is none; 0 when it failed.
     int groupIdByName(const QString &name);
 
-    /// What the search holds of these contacts is out of date.
-    void forgetSearch() { m_lines.clear(); }
+    /// What is held in memory is out of date.
+    void forgetContacts() { m_search.clear(); }
 
 private:
+    bool readContacts(QList<ContactData> *contacts) const;
+    void refreshSearch();
     bool insertNumbers(int contactId, const ContactData &contact);
-    void refreshLines();
 
     SqliteFile m_file;
-    SearchLines m_lines;
+    ContactSearch m_search;
 };
 
 #endif

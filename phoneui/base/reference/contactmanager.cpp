@@ -23,7 +23,7 @@ bool ContactManager::write(const std::function<bool()> &work)
 {
     const bool written = m_database->file().write(work);
     if (written)
-        m_database->forgetSearch();
+        m_database->forgetContacts();
     return written;
 }
 

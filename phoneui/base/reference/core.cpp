@@ -4,6 +4,7 @@
 #include "callmanager.h"
 #include "contactmanager.h"
 #include "qcalllist.h"
+#include "settingsfile.h"
 #include "soundmanager.h"
 #include "wpsmcontactmanager.h"
 
@@ -114,7 +115,7 @@ void Core::removeApp(BaseAppInterface *app)
 
 QString Core::setting(ConfigFileType type, const char *key, const QString &fallback) const
 {
-    return QSettings(configFileName(type), QSettings::IniFormat).value(QLatin1String(key), fallback).toString();
+    return SettingsFile(configFileName(type)).value(QLatin1String(key), fallback);
 }
 
 QString Core::charset() const
@@ -140,9 +141,10 @@ bool Core::setLanguageName(const QString &name)
     languageOfName(name, &known);
     if (!known)
         return false;
-    QSettings settings(configFileName(SettingsConfig), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("Settings/Language"), name);
-    settings.sync();
+    SettingsFile settings(configFileName(SettingsConfig));
+    settings.set(QStringLiteral("Settings/Language"), name);
+    if (!settings.save())
+        return false;
     emit languageChanged();
     const QStringList running = m_apps.keys();
     for (const QString &app : running)
@@ -192,9 +194,7 @@ int Core::getSystemType() const
 
 QString Core::getProvPassword() const
 {
-    const QSettings secret(m_home.path(QStringLiteral("config/secret.ini")), QSettings::IniFormat);
-    // An unquoted comma makes a list of the value.
-    return secret.value(QStringLiteral("Prov/Password")).toStringList().join(QLatin1Char(','));
+    return SettingsFile(m_home.path(QStringLiteral("config/secret.ini"))).value(QStringLiteral("Prov/Password"));
 }
 
 bool Core::openContactDatabase()

@@ -2,11 +2,11 @@
 
 #include "core.h"
 #include "keypadletters.h"
+#include "settingsfile.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
-#include <QSettings>
 
 namespace {
 
@@ -31,8 +31,8 @@ bool isModifier(int key)
 
 int configuredTapTime()
 {
-    const QSettings settings(theCore->configFileName(SystemConfig), QSettings::IniFormat);
-    return settings.value(QStringLiteral("Input/MultiTapTime"), DefaultTapTime).toInt();
+    return SettingsFile(theCore->configFileName(SystemConfig))
+        .number(QStringLiteral("Input/MultiTapTime"), DefaultTapTime);
 }
 
 }

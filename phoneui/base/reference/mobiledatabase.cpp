@@ -1,10 +1,10 @@
 #include "mobiledatabase.h"
 
 #include "contactdatabase.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QFile>
-#include <QSettings>
 
 MobileDatabase::MobileDatabase(const QString &folder) : m_folder(folder)
 {
@@ -18,9 +18,9 @@ void MobileDatabase::reload()
         take(QString(), QString(), {});
         return;
     }
-    const QSettings ini(iniPath, QSettings::IniFormat);
-    const QString generation = ini.value(QStringLiteral("Device/Generation")).toString();
-    const int count = ini.value(QStringLiteral("Device/Count"), -1).toInt();
+    const SettingsFile ini(iniPath);
+    const QString generation = ini.value(QStringLiteral("Device/Generation"));
+    const int count = ini.number(QStringLiteral("Device/Count"), -1);
     if (!generation.isEmpty() && generation == m_generation)
         return;
 
@@ -36,43 +36,20 @@ void MobileDatabase::reload()
     }
     for (ContactData &contact : contacts)
         contact.type = ContactData::MobileContact;
-    take(ini.value(QStringLiteral("Device/Name")).toString(), generation, contacts);
+    take(ini.value(QStringLiteral("Device/Name")), generation, contacts);
 }
 
 void MobileDatabase::take(const QString &deviceName, const QString &generation, const QList<ContactData> &contacts)
 {
     m_deviceName = deviceName;
     m_generation = generation;
-    m_contacts = contacts;
+    m_search.load(contacts, 0);
     m_positions.clear();
-    for (int i = 0; i < m_contacts.size(); ++i)
-        m_positions.insert(m_contacts.at(i).id, i);
-    m_lines.clear();
+    for (int i = 0; i < m_search.contacts().size(); ++i)
+        m_positions.insert(m_search.contacts().at(i).id, i);
 }
 
 ContactData MobileDatabase::contact(int id) const
 {
-    return m_contacts.value(m_positions.value(id, -1));
-}
-
-QList<ContactData> MobileDatabase::search(const QString &word)
-{
-    if (word.isEmpty())
-        return m_contacts;
-    if (m_lines.needsReload(0)) {
-        for (const ContactData &contact : qAsConst(m_contacts)) {
-            QStringList numbers;
-            for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
-                if (!contact.number(slot).isEmpty())
-                    numbers.append(contact.number(slot));
-            }
-            m_lines.append(contact.id, contact.name, numbers);
-        }
-        m_lines.setLoaded(0);
-    }
-    QList<ContactData> found;
-    const QVector<int> ids = m_lines.matches(word);
-    for (const int id : ids)
-        found.append(contact(id));
-    return found;
+    return m_search.contacts().value(m_positions.value(id, -1));
 }

@@ -2,7 +2,7 @@
 #define MOBILEDATABASE_H
 
 #include "contactdata.h"
-#include "searchlines.h"
+#include "contactsearch.h"
 
 #include <QHash>
 #include <QList>
@@ -18,9 +18,9 @@ public:
     void reload();
 
     QString deviceName() const { return m_deviceName; }
-    const QList<ContactData> &contacts() const { return m_contacts; }
+    const QList<ContactData> &contacts() const { return m_search.contacts(); }
     ContactData contact(int id) const;
-    QList<ContactData> search(const QString &word);
+    QList<ContactData> search(const QString &word) const { return m_search.matches(word); }
 
 private:
     void take(const QString &deviceName, const QString &generation, const QList<ContactData> &contacts);
@@ -28,9 +28,8 @@ private:
     const QString m_folder;
     QString m_deviceName;
     QString m_generation;
-    QList<ContactData> m_contacts;
     QHash<int, int> m_positions;
-    SearchLines m_lines;
+    ContactSearch m_search;
 };
 
 #endif

@@ -1,8 +1,10 @@
 #include "phonehome.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -66,6 +68,12 @@ QString PhoneHome::path(const QString &relative) const
     return m_root + QLatin1Char('/') + relative;
 }
 
+bool PhoneHome::isAnswerName(const QString &name)
+{
+    static const QRegularExpression answer(QStringLiteral("\\Adirectory-[A-Za-z]{6}\\.xml\\z"));
+    return answer.match(name).hasMatch();
+}
+
 bool PhoneHome::create() const
 {
     for (const char *folder : Folders) {
@@ -88,15 +96,11 @@ bool PhoneHome::create() const
     // Applications open this one as it stands in the list, so it is absolute and follows a home that was moved.
     const QString key = QStringLiteral("COMMON/IPC_CONF");
     const QString ipcConf = path(QStringLiteral("config/ipc.conf"));
-    QSettings list(configList(), QSettings::IniFormat);
-    if (list.value(key).toString() != ipcConf)
-        list.setValue(key, ipcConf);
-    list.sync();
-    if (list.status() != QSettings::NoError) {
-        qWarning() << "PhoneHome: cannot write" << configList();
-        return false;
-    }
-    return true;
+    SettingsFile list(configList());
+    if (list.value(key) == ipcConf)
+        return true;
+    list.set(key, ipcConf);
+    return list.save();
 }
 
 void PhoneHome::enter() const

@@ -273,7 +273,8 @@ bool SqliteFile::write(const std::function<bool()> &work)
 
 int SqliteFile::dataVersion() const
 {
-    return m_open ? ask(QStringLiteral("PRAGMA data_version")).toInt() : 0;
+    SqliteStatement version = statement("PRAGMA data_version");
+    return version.run() && version.next() ? version.number(0) : 0;
 }
 
 bool SqliteFile::execute(const QString &sql) const

@@ -27,6 +27,5 @@ QByteArray makeBuffEscape(char *text)
 
 bool chosungCompare(const QString &name, const QString &word)
 {
-    const QString folded = TextFolding::fold(word);
-    return !folded.isEmpty() && TextFolding::nameLine(name).contains(folded);
+    return TextFolding::nameHolds(name, word);
 }

@@ -1,12 +1,14 @@
 #include "textfolding.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace {
 
 constexpr ushort FirstInitial = 0x1100, LastInitial = 0x1112;
-constexpr ushort FirstSyllable = 0xac00, LastSyllable = 0xd7a3;
 
 struct Replacement
 {
@@ -62,48 +64,80 @@ template <std::size_t N> const char16_t *replacementOf(const std::array<Replacem
     return found != table.end() && found->from == code ? found->to : nullptr;
 }
 
-void append(QString &out, const char16_t *text)
+/// A folded text on the stack: names are short, and a search folds thousands of them between two keys.
+using Buffer = QVarLengthArray<QChar, 128>;
+
+void append(Buffer &out, const QString &text)
 {
-    for (; *text; ++text)
-        out += QChar(*text);
+    out.append(text.constData(), text.size());
 }
 
-void appendFolded(QString &out, QChar c)
+QString foldedLetter(QChar c)
 {
     if (c.isMark())
-        return;
+        return QLatin1String("");
     const QChar folded = c.toCaseFolded();
     const char16_t *replacement = replacementOf(Letters, folded.unicode());
     if (!replacement)
         replacement = replacementOf(JoinedJamo, folded.unicode());
     if (replacement)
-        append(out, replacement);
-    else if (c.isSpace() || c.category() == QChar::Other_Control)
-        out += u' ';
-    else
-        out += folded;
+        return QString::fromUtf16(replacement);
+    return c.isSpace() || c.category() == QChar::Other_Control ? QStringLiteral(" ") : QString(folded);
 }
 
-bool isAscii(const QString &text)
+/// A character without its accents, a syllable as its jamo, a lone consonant as initial ones.
+QString foldedCharacter(const QString &character)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    const int lone = character.at(0).unicode() - FirstLoneConsonant;
+    const QString parts = lone >= 0 && lone < static_cast<int>(LoneConsonants.size())
+        ? QString::fromUtf16(LoneConsonants[static_cast<std::size_t>(lone)])
+        : character.normalized(QString::NormalizationForm_KD);
+    QString folded = QLatin1String("");
+    for (const QChar c : parts)
+        folded += foldedLetter(c);
+    return folded;
 }
 
-/// Lone consonants become initial ones; the rest is taken apart into letters and marks, syllables into jamo.
-QString takenApart(const QString &text)
+/// The characters of the basic plane, each folded when it is first met. One folds like the other whatever stands
+/// beside it: what normalization would reorder are marks, and they go.
+class FoldedCharacters
 {
-    if (isAscii(text))
-        return text;
-    QString spread;
-    spread.reserve(text.size());
-    for (const QChar c : text) {
-        const int lone = c.unicode() - FirstLoneConsonant;
-        if (lone >= 0 && lone < static_cast<int>(LoneConsonants.size()))
-            append(spread, LoneConsonants[static_cast<std::size_t>(lone)]);
-        else
-            spread += c;
+public:
+    const QString &at(ushort code)
+    {
+        std::unique_ptr<Page> &page = m_pages[code >> 8];
+        if (!page)
+            page = std::make_unique<Page>();
+        QString &folded = (*page)[code & 0xff];
+        if (folded.isNull())
+            folded = foldedCharacter(QString(QChar(code)));
+        return folded;
     }
-    return spread.normalized(QString::NormalizationForm_KD);
+
+private:
+    using Page = std::array<QString, 256>;
+    std::array<std::unique_ptr<Page>, 256> m_pages;
+};
+
+QChar foldedAscii(ushort code)
+{
+    if (code >= 'A' && code <= 'Z')
+        return QChar(code + 'a' - 'A');
+    return code < ' ' || code == 0x7f ? QChar(' ') : QChar(code);
+}
+
+void appendFolded(Buffer &out, const QString &text)
+{
+    static thread_local FoldedCharacters characters;
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort code = text.at(i).unicode();
+        if (code < 0x80)
+            out.append(foldedAscii(code));
+        else if (QChar::isHighSurrogate(code) && i + 1 < text.size())
+            append(out, foldedCharacter(text.mid(i++, 2)));
+        else
+            append(out, characters.at(code));
+    }
 }
 
 bool isInitial(QChar c)
@@ -111,34 +145,63 @@ bool isInitial(QChar c)
     return c.unicode() >= FirstInitial && c.unicode() <= LastInitial;
 }
 
+/// The first letters of all words; with `ofSyllables` the initial consonants of Korean syllables as well.
+void appendInitials(Buffer &out, const Buffer &folded, bool ofSyllables)
+{
+    bool inWord = false;
+    for (const QChar c : folded) {
+        const bool letter = c.isLetterOrNumber() || c.isSurrogate() || (inWord && (c == u'\'' || c == u'\u2019'));
+        if ((letter && !inWord) || (ofSyllables && isInitial(c)))
+            out.append(c);
+        inWord = letter;
+    }
+}
+
+bool holds(const Buffer &text, const Buffer &word)
+{
+    return std::search(text.begin(), text.end(), word.begin(), word.end()) != text.end();
+}
+
+QString toString(const Buffer &buffer)
+{
+    return QString(buffer.constData(), buffer.size());
+}
+
 }
 
 QString TextFolding::fold(const QString &text)
 {
-    const QString parts = takenApart(text);
-    QString folded;
-    folded.reserve(parts.size());
-    for (const QChar c : parts)
-        appendFolded(folded, c);
-    return folded;
+    Buffer folded;
+    appendFolded(folded, text);
+    return toString(folded);
 }
 
 QString TextFolding::nameLine(const QString &name)
 {
-    const QString folded = fold(name);
-    QString initials;
-    QString wordInitials;
-    bool inWord = false;
-    for (const QChar c : folded) {
-        const bool letter = c.isLetterOrNumber() || c.isSurrogate() || (inWord && (c == u'\'' || c == u'\u2019'));
-        if (letter && !inWord)
-            wordInitials += c;
-        if (isInitial(c) || (letter && !inWord))
-            initials += c;
-        inWord = letter;
-    }
-    QString line = folded + Separator + initials;
+    Buffer folded, initials, wordInitials;
+    appendFolded(folded, name);
+    appendInitials(initials, folded, true);
+    appendInitials(wordInitials, folded, false);
+    QString line = toString(folded) + Separator + toString(initials);
     if (wordInitials != initials)
-        line += Separator + wordInitials;
+        line += Separator + toString(wordInitials);
     return line;
+}
+
+bool TextFolding::nameHolds(const QString &name, const QString &word)
+{
+    Buffer folded, sought;
+    appendFolded(folded, name);
+    appendFolded(sought, word);
+    if (sought.isEmpty())
+        return false;
+    if (holds(folded, sought))
+        return true;
+    // All initials stand in the name too.
+    if (sought.size() == 1 || !std::count(folded.begin(), folded.end(), sought.at(0)))
+        return false;
+    Buffer initials, wordInitials;
+    appendInitials(initials, folded, true);
+    appendInitials(wordInitials, folded, false);
+    return holds(initials, sought) || holds(wordInitials, sought);
 }

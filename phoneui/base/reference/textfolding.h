@@ -17,6 +17,9 @@ QString fold(const QString &text);
 /// and the first letters of all words.
 QString nameLine(const QString &name);
 
+/// Whether the line of the name holds the folded word; an empty word never does. Makes neither of them.
+bool nameHolds(const QString &name, const QString &word);
+
 }
 
 #endif

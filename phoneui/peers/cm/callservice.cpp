@@ -2,56 +2,20 @@
 
 #include "callmanager.h"
 #include "contactdata.h"
-#include "message.h"
 #include "phoneline.h"
 
-#include <QHostAddress>
-#include <QNetworkDatagram>
 #include <QTextCodec>
 
-static constexpr int LongestDatagram = 4096;
-
 CallService::CallService(PhoneLine *line, const QByteArray &charset, QObject *parent)
-    : QObject(parent), m_line(line), m_charset(charset)
+    : RequestSocket("CM/UI",
+                    {{"ui2cm_svc_dialer(int,str,str,str,str,int,int)",
+                      [this](const QVariantList &arguments) { return dialer(arguments); }},
+                     {"ui2cm_svc_directory(int,str,str)",
+                      [this](const QVariantList &arguments) { return directory(arguments); }},
+                     {"ui2cm_svc_hangup()", [this](const QVariantList &) { return hangUp(); }}},
+                    parent),
+      m_line(line), m_charset(charset)
 {
-    connect(&m_socket, &QUdpSocket::readyRead, this, &CallService::readDatagrams);
-}
-
-bool CallService::listen(quint16 port)
-{
-    return m_socket.bind(QHostAddress::LocalHost, port, QUdpSocket::DontShareAddress);
-}
-
-void CallService::readDatagrams()
-{
-    while (m_socket.hasPendingDatagrams()) {
-        if (const char *fault = act(m_socket.receiveDatagram().data()))
-            qWarning("A datagram was dropped: %s", fault);
-    }
-}
-
-const char *CallService::act(const QByteArray &datagram)
-{
-    struct Request
-    {
-        const char *signature;
-        Handler handler;
-    };
-    static constexpr Request requests[] = {
-        {"ui2cm_svc_dialer(int,str,str,str,str,int,int)", &CallService::dialer},
-        {"ui2cm_svc_directory(int,str,str)", &CallService::directory},
-        {"ui2cm_svc_hangup()", &CallService::hangUp},
-    };
-    Message message;
-    if (datagram.size() > LongestDatagram || !message_Parse(datagram.constData(), datagram.size(), &message))
-        return "it is no message";
-    if (message.address != "CM/UI")
-        return "it is not for the call manager";
-    for (const Request &request : requests) {
-        if (message.signature == request.signature)
-            return (this->*request.handler)(message.arguments);
-    }
-    return "there is no such request";
 }
 
 /// Handle, mode, number, name, call mode, call type, line. There is one line, so any choice of it is that one.
@@ -83,7 +47,7 @@ const char *CallService::directory(const QVariantList &arguments)
     return done ? nullptr : "there is no conversation to take it into";
 }
 
-const char *CallService::hangUp(const QVariantList &)
+const char *CallService::hangUp()
 {
     // The other side may have been faster.
     m_line->hangUp();

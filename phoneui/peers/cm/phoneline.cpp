@@ -1,6 +1,5 @@
 #include "phoneline.h"
-
-#include <QSettings>
+#include "settingsfile.h"
 
 namespace {
 
@@ -82,6 +81,5 @@ void PhoneLine::goOn()
 
 int PhoneLine::milliseconds(State state) const
 {
-    const QSettings config(m_configFile, QSettings::IniFormat);
-    return qMax(0, config.value(QLatin1String(Steps[state].key), Steps[state].milliseconds).toInt());
+    return qMax(0, SettingsFile(m_configFile).number(QLatin1String(Steps[state].key), Steps[state].milliseconds));
 }

@@ -1,8 +1,8 @@
 #include "mobiledevice.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QFile>
-#include <QSettings>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -38,12 +38,9 @@ bool MobileDevice::connectDevice(const QString &name, const QList<ContactImport>
 {
     const QString generation = QUuid::createUuid().toString(QUuid::WithoutBraces);
     const QString newDatabase = m_database + QStringLiteral(".new");
-    const QString newIni = m_ini + QStringLiteral(".new");
-    const bool connected = writeDatabase(newDatabase, generation, contacts)
-        && writeIni(newIni, name, generation, contacts.size()) && putInPlace(newDatabase, m_database)
-        && putInPlace(newIni, m_ini);
+    const bool connected = writeDatabase(newDatabase, generation, contacts) && putInPlace(newDatabase, m_database)
+        && writeIni(name, generation, contacts.size());
     removeDatabase(newDatabase);
-    QFile::remove(newIni);
     return connected;
 }
 
@@ -51,7 +48,7 @@ int MobileDevice::disconnectDevice() const
 {
     if (!QFile::exists(m_ini))
         return -1;
-    const int count = QSettings(m_ini, QSettings::IniFormat).value(QStringLiteral("Device/Count")).toInt();
+    const int count = SettingsFile(m_ini).number(QStringLiteral("Device/Count"));
     QFile::remove(m_ini);
     removeDatabase(m_database);
     return count;
@@ -86,15 +83,13 @@ bool MobileDevice::writeDatabase(const QString &path, const QString &generation,
     return finished;
 }
 
-bool MobileDevice::writeIni(const QString &path, const QString &name, const QString &generation, int count) const
+bool MobileDevice::writeIni(const QString &name, const QString &generation, int count) const
 {
-    QFile::remove(path);
-    QSettings ini(path, QSettings::IniFormat);
-    ini.setValue(QStringLiteral("Device/Name"), name);
-    ini.setValue(QStringLiteral("Device/Count"), count);
-    ini.setValue(QStringLiteral("Device/Generation"), generation);
-    ini.sync();
-    return ini.status() == QSettings::NoError;
+    SettingsFile ini(m_ini);
+    ini.set(QStringLiteral("Device/Name"), name);
+    ini.set(QStringLiteral("Device/Count"), QString::number(count));
+    ini.set(QStringLiteral("Device/Generation"), generation);
+    return ini.save();
 }
 
 bool MobileDevice::putInPlace(const QString &from, const QString &to) const

@@ -20,7 +20,7 @@ public:
 
 private:
     bool writeDatabase(const QString &path, const QString &generation, const QList<ContactImport> &contacts) const;
-    bool writeIni(const QString &path, const QString &name, const QString &generation, int count) const;
+    bool writeIni(const QString &name, const QString &generation, int count) const;
     /// Puts a finished file in its place, so that a power cut leaves the old one or the new one.
     bool putInPlace(const QString &from, const QString &to) const;
 

@@ -81,6 +81,14 @@
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
+    <message>
+        <source>Directory</source>
+        <translation>Directorio</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
 </context>
 <context>
     <name>KeyModule</name>

@@ -81,6 +81,14 @@
         <source>Language</source>
         <translation>Lingua</translation>
     </message>
+    <message>
+        <source>Directory</source>
+        <translation>Elenco</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
 </context>
 <context>
     <name>KeyModule</name>

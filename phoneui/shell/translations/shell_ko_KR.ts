@@ -81,6 +81,14 @@
         <source>Language</source>
         <translation>언어</translation>
     </message>
+    <message>
+        <source>Directory</source>
+        <translation>디렉터리</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
 </context>
 <context>
     <name>KeyModule</name>

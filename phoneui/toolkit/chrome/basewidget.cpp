@@ -1,6 +1,7 @@
 #include "basewidget.h"
 
 #include "core.h"
+#include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
 
@@ -8,6 +9,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSettings>
+#include <QThread>
+#include <QTimer>
 
 namespace {
 
@@ -17,7 +20,8 @@ constexpr int LockingSystemType = 1;
 
 }
 
-BaseWidget::BaseWidget(QWidget *parent) : QDialog(parent, Qt::FramelessWindowHint)
+BaseWidget::BaseWidget(QWidget *parent)
+    : QDialog(parent, Qt::FramelessWindowHint), m_loopLevel(QThread::currentThread()->loopLevel())
 {
     setGeometry(ScreenGeometry);
     status = theCore->statusWidget();
@@ -37,17 +41,29 @@ void BaseWidget::bringUp()
     show();
 }
 
+void BaseWidget::retire()
+{
+    static constexpr int Pause = 20; // ms
+
+    close();
+    auto *timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this] {
+        if (QThread::currentThread()->loopLevel() <= m_loopLevel)
+            deleteLater();
+    });
+    timer->start(Pause);
+}
+
 void BaseWidget::updateStatus()
 {
     if (!status)
         return;
-    const QSettings settings(theCore->configFileName(SettingsConfig), QSettings::IniFormat);
-    status->setTime24Hour(settings.value("Settings/24HourTime", false).toBool());
+    const SettingsFile settings(theCore->configFileName(SettingsConfig));
+    status->setTime24Hour(settings.flag("Settings/24HourTime"));
 
-    const QSettings system(theCore->configFileName(SystemConfig), QSettings::IniFormat);
-    const bool menuLocked = system.value("Menu_Password/enable", false).toBool();
-    const int callLock
-        = theCore->getSystemType() == LockingSystemType ? system.value("Security/CallLock", 0).toInt() : 0;
+    const SettingsFile system(theCore->configFileName(SystemConfig));
+    const bool menuLocked = system.flag("Menu_Password/enable");
+    const int callLock = theCore->getSystemType() == LockingSystemType ? system.number("Security/CallLock") : 0;
     status->setUIStatusLock(menuLocked);
     status->setUIStatusCallLock(callLock != 0);
 }

@@ -26,6 +26,10 @@ public:
     /// How often the screen has been closed or hidden; see ScreenWatch.
     int hideCount() const { return m_hideCount; }
 
+    /// Closes a screen that was shown without a loop of its own, for good. It is deleted by the event loop in which
+    /// it was made, which it must not outlive: loops inside that one belong to handlers, and they may be its own.
+    void retire();
+
     /// Brings the lock signs and the form of the clock on the status bar up to date with the settings.
     void updateStatus();
 
@@ -50,6 +54,7 @@ private:
 
     QColor m_bgColor = Qt::white;
     int m_hideCount = 0;
+    const int m_loopLevel; ///< how many event loops ran when the screen was made
 };
 
 #endif

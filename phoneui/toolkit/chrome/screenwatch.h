@@ -61,4 +61,14 @@ template <typename Screen> void closeScreen(QPointer<Screen> &slot)
         screen->close();
 }
 
+/// The same for a screen that was shown without a loop of its own: nobody runs it, so it deletes itself when it
+/// can.
+template <typename Screen> void retireScreen(QPointer<Screen> &slot)
+{
+    const QPointer<Screen> screen = slot;
+    closeScreen(slot);
+    if (screen)
+        screen->retire();
+}
+
 #endif

@@ -2,8 +2,8 @@
 
 #include "focusframe.h"
 
+#include <QImage>
 #include <QPainter>
-#include <QVector>
 
 namespace ListPainting {
 
@@ -61,16 +61,12 @@ void drawDottedLine(QPainter *painter, const QLine &line, const QColor &ground)
 {
     static constexpr int Dot = 2, Period = 3;
     const bool level = line.y1() == line.y2();
-    const int last = level ? line.x2() - line.x1() : line.y2() - line.y1();
-    const auto point = [&](int along) { return line.p1() + (level ? QPoint(along, 0) : QPoint(0, along)); };
-
-    QVector<QLine> dots;
-    for (int along = 0; along <= last; along += Period)
-        dots.append(QLine(point(along), point(qMin(along + Dot - 1, last))));
-    painter->setPen(ground);
-    painter->drawLine(line);
-    painter->setPen(LightGrey);
-    painter->drawLines(dots);
+    QImage dots(level ? Period : 1, level ? 1 : Period, QImage::Format_RGB32);
+    dots.fill(LightGrey);
+    dots.setPixelColor(level ? Dot : 0, level ? 0 : Dot, ground);
+    const QRect rect(line.p1(), line.p2());
+    painter->setBrushOrigin(rect.topLeft());
+    painter->fillRect(rect, QBrush(dots));
 }
 
 void drawEmptyLook(QPainter *painter, const QSize &size, const QString &text)

@@ -31,10 +31,43 @@ ListViewItem *ListView::addItem(ListViewItem *item)
     return item;
 }
 
+void ListView::addItems(int count, const std::function<ListViewItem *(int)> &make)
+{
+    makeAllItems(); // of rows added so before
+    const int first = itemSize();
+    m_items.reserve(first + count);
+    for (int i = 0; i < count; ++i)
+        m_items.append(nullptr);
+    m_makeItem = [first, make](int idx) { return make(idx - first); };
+}
+
+ListViewItem *ListView::item(int idx) const
+{
+    if (idx < 0 || idx >= itemSize())
+        return nullptr;
+    if (!m_items.at(idx))
+        m_items[idx] = m_makeItem(idx);
+    return m_items.at(idx);
+}
+
+/// Where rows leave their places or all of them are looked at.
+void ListView::makeAllItems() const
+{
+    for (int i = 0; m_makeItem && i < itemSize(); ++i)
+        item(i);
+}
+
+void ListView::moveItem(int from, int to)
+{
+    makeAllItems();
+    m_items.move(from, to);
+}
+
 void ListView::removeItem(int idx)
 {
     if (idx < 0 || idx >= itemSize())
         return;
+    makeAllItems();
     const int type = m_items.at(idx)->type();
     delete m_items.takeAt(idx);
     if (selectedIdx() >= itemSize())
@@ -49,12 +82,14 @@ void ListView::itemClear()
 {
     while (!m_items.isEmpty())
         delete m_items.takeLast();
+    m_makeItem = nullptr;
     m_keyPressFlag = false;
 }
 
 ListViewItem *ListView::item(QString const &text) const
 {
-    for (ListViewItem *row : m_items) {
+    makeAllItems();
+    for (ListViewItem *row : qAsConst(m_items)) {
         if (row->text() == text)
             return row;
     }

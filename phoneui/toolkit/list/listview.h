@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 class QLineEdit;
 class QPainter;
 class QValidator;
@@ -45,13 +47,16 @@ public:
 
     /// Takes the row as the last one; neither repaints nor selects.
     ListViewItem *addItem(ListViewItem *item);
+    /// As many rows as `count`, each made by `make` from its place among them when it is first looked at: of a long
+    /// list that is rebuilt at every key, a person sees a few.
+    void addItems(int count, const std::function<ListViewItem *(int)> &make);
     void removeItem(int idx);
-    void moveItem(int from, int to) { m_items.move(from, to); }
+    void moveItem(int from, int to);
     /// Deletes all rows. Selection and window stay as they were, for the caller to set.
     void itemClear();
     int itemSize() const { return m_items.size(); }
     /// The row, or null.
-    ListViewItem *item(int idx) const { return m_items.value(idx); }
+    ListViewItem *item(int idx) const;
     /// The first row with this text; if there is none, the last row.
     ListViewItem *item(QString const &text) const;
 
@@ -229,7 +234,10 @@ private:
     void setUpTimeEdit(ListViewItem *row);
     void lineEditRowChanged(const QString &text);
 
-    QList<ListViewItem *> m_items;
+    void makeAllItems() const;
+
+    mutable QList<ListViewItem *> m_items; ///< null where a row is still to be made
+    std::function<ListViewItem *(int)> m_makeItem; ///< gets the place in the list
     QColor m_lineColor = Qt::black;
     QPixmap m_backgroundPixmap;
     QColor m_backgroundColor = Qt::white;

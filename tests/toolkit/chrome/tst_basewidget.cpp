@@ -1,47 +1,22 @@
-#include "basewidget.h"
-#include "phonekeys.h"
-#include "testcase.h"
-#include "testmain.h"
-#include "testphone.h"
+#include "screentest.h"
 
 #include <QKeyEvent>
 #include <QSettings>
 
-#include <memory>
-
 using namespace PhoneKeys;
 
-class Screen : public BaseWidget
-{
-public:
-    explicit Screen(const QString &title) : BaseWidget(nullptr), m_title(title) { setFocusPolicy(Qt::StrongFocus); }
-    int closes = 0;
-
-protected:
-    void setupStatus() override { status->setTitle(m_title); }
-    void closeEvent(QCloseEvent *event) override
-    {
-        ++closes;
-        BaseWidget::closeEvent(event);
-    }
-
-private:
-    QString m_title;
-};
-
-class BaseWidgetTest : public TestCase
+class BaseWidgetTest : public ScreenTest
 {
     Q_OBJECT
 
-    void setUp() override { m_phone.reset(new TestPhone); }
-    void tearDown() override { m_phone.reset(); }
-
 private slots:
+<<<<<<< HEAD
     void fillsTheDisplayBelowTheStatusBar();
     void escapeClosesOnceAtTheRelease();
     void otherKeysKeepTheirAcceptState();
     void theTitleComesBack();
     void execReturnsWhenClosedFromOutside();
+    void aRetiredScreenOutlivesLoopsOfItsHandlers();
     void locksShowAsTheSettingsSay_data();
     void locksShowAsTheSettingsSay();
 
@@ -90,21 +65,49 @@ void BaseWidgetTest::theTitleComesBack()
     Screen below("Below");
     QVERIFY(showAndActivate(&below));
     QCOMPARE(m_phone->status.title(), QString("Below"));
+=======
+    void fillsTheDisplayBelowTheStatusBar()
+>>>>>>> trimkit
     {
-        Screen above("Above");
+        const QColor yellow(Qt::yellow);
+        m_screen->setBgColor(yellow);
+        const QImage picture = TestScreen::picture();
+        QCOMPARE(picture.pixelColor(0, 26), yellow);
+        QCOMPARE(picture.pixelColor(383, 159), yellow);
+        QVERIFY(picture.pixelColor(383, 25) != yellow);
+    }
+
+    void escapeClosesAtTheReleaseAndTheTitleComesBack()
+    {
+        KeyScreen above("Above");
         QVERIFY(showAndActivate(&above));
         QCOMPARE(m_phone->status.title(), QString("Above"));
-        click(Qt::Key_Escape);
+        press(Qt::Key_Escape);
+        QVERIFY(above.isVisible());
+        release(Qt::Key_Escape);
+        QVERIFY(!above.isVisible());
+        QTRY_COMPARE(m_phone->status.title(), QString("Screen"));
+        QVERIFY(m_screen->isVisible() && m_screen->list->hasFocus());
     }
-    QTRY_COMPARE(m_phone->status.title(), QString("Below"));
-    QVERIFY(below.hasFocus());
-}
 
+<<<<<<< HEAD
 void BaseWidgetTest::execReturnsWhenClosedFromOutside()
 {
     Screen screen("One");
     QTimer::singleShot(0, &screen, [&screen] { screen.close(); });
     QCOMPARE(screen.exec(), int(QDialog::Rejected));
+}
+
+void BaseWidgetTest::aRetiredScreenOutlivesLoopsOfItsHandlers()
+{
+    const QPointer<Screen> screen = new Screen("One");
+    QVERIFY(showAndActivate(screen));
+    QEventLoop handler;
+    QTimer::singleShot(0, screen, [screen] { screen->retire(); });
+    QTimer::singleShot(100, &handler, &QEventLoop::quit);
+    handler.exec();
+    QVERIFY(screen && !screen->isVisible());
+    QTRY_VERIFY(!screen);
 }
 
 void BaseWidgetTest::locksShowAsTheSettingsSay_data()
@@ -124,18 +127,53 @@ void BaseWidgetTest::locksShowAsTheSettingsSay()
     QFETCH(int, systemType);
     QFETCH(bool, menuPassword);
     QFETCH(int, callLock);
+=======
+    void otherKeysKeepTheirAcceptState()
+>>>>>>> trimkit
     {
-        QSettings system(m_phone->core.configFileName(SystemConfig), QSettings::IniFormat);
-        system.setValue("System/Type", systemType);
-        system.setValue("Menu_Password/enable", menuPassword);
-        system.setValue("Security/CallLock", callLock);
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            for (const bool accepted : {false, true}) {
+                QKeyEvent event(type, Qt::Key_5, Qt::NoModifier);
+                event.setAccepted(accepted);
+                QCoreApplication::sendEvent(m_screen.get(), &event);
+                QCOMPARE(event.isAccepted(), accepted);
+            }
+        }
     }
-    int changes = 0;
-    connect(&m_phone->status, &Status::statusInfoChanged, this, [&] { ++changes; });
-    Screen screen("One");
-    screen.updateStatus();
-    QTEST(changes, "changes");
-}
+
+    void closedFromOutsideItTakesItsBoxesAlong()
+    {
+        KeyScreen screen;
+        int answer = StillOpen;
+        const int result = runBox(screen, [&] {
+            QDialog question(&screen);
+            answer = runBox(question, [&] { screen.close(); });
+        });
+        QCOMPARE(answer, int(QDialog::Rejected));
+        QCOMPARE(result, int(QDialog::Rejected));
+    }
+
+    void locksShowAsTheSettingsSay()
+    {
+        // Of a system with a call lock and of one without.
+        const struct
+        {
+            int systemType;
+            bool menu;
+            int callLock, changes;
+        } locks[] = {{1, false, 0, 0}, {1, true, 0, 1}, {1, true, 2, 1}, {2, true, 2, 1}};
+        for (const auto &lock : locks) {
+            QSettings system(m_phone->core.configFileName(SystemConfig), QSettings::IniFormat);
+            system.setValue("System/Type", lock.systemType);
+            system.setValue("Menu_Password/enable", lock.menu);
+            system.setValue("Security/CallLock", lock.callLock);
+            system.sync();
+            QSignalSpy changes(&m_phone->status, &Status::statusInfoChanged);
+            m_screen->updateStatus();
+            QCOMPARE(changes.size(), lock.changes);
+        }
+    }
+};
 
 PHONE_TEST_MAIN(BaseWidgetTest)
 #include "tst_basewidget.moc"

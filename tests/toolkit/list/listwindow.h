@@ -2,15 +2,10 @@
 #define LISTWINDOW_H
 
 #include "listview.h"
-#include "phonekeys.h"
+#include "screentest.h"
 
-#include <QKeyEvent>
-#include <QWidget>
-
-#include <initializer_list>
-
-/// A screen with one list, which counts the key presses that the list leaves to it.
-template <class List = ListView> class ListWindow : public QWidget
+/// A screen with one list, which keeps the keys that the list leaves to it.
+template <class List = ListView> class ListWindow : public KeyCounter
 {
 public:
     ListWindow()
@@ -25,18 +20,31 @@ public:
         for (int i = 0; i < count; ++i)
             list->addItem(new ListViewItem(QString("Row %1").arg(list->itemSize()), QPixmap(), QPixmap()));
     }
-    void disable(std::initializer_list<int> rows)
+    void add(std::initializer_list<ListViewItem *> rows)
+    {
+        for (ListViewItem *row : rows)
+            list->addItem(row);
+    }
+    void disable(const QList<int> &rows)
     {
         for (int row : rows)
             list->item(row)->setItemSelectEnable(false);
     }
     bool showNow() { return PhoneKeys::showAndActivate(this); }
 
-    void keyPressEvent(QKeyEvent *event) override { presses.append(event->key()); }
-    void keyReleaseEvent(QKeyEvent *event) override { releases.append(event->key()); }
-
     List *list;
-    QList<int> presses, releases;
 };
+
+/// What a signal told, by one of its arguments.
+inline QList<int> values(const QSignalSpy &spy, int argument = 0)
+{
+    QList<int> list;
+    for (const QList<QVariant> &arguments : spy)
+        list.append(arguments.at(argument).toInt());
+    return list;
+}
+
+constexpr auto Up = Qt::Key_Up, Down = Qt::Key_Down, Left = Qt::Key_Left, Right = Qt::Key_Right,
+               Enter = Qt::Key_Return;
 
 #endif

@@ -1,24 +1,12 @@
-#include "boxrun.h"
 #include "imagebutton.h"
 #include "messagebox.h"
+#include "screentest.h"
 #include "slidemessagebox.h"
-#include "testcase.h"
-#include "testmain.h"
-#include "testphone.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
-#include <QSignalSpy>
-
-#include <memory>
 
 using namespace PhoneKeys;
-
-static QRect corners(int left, int top, int right, int bottom)
-{
-    return QRect(QPoint(left, top), QPoint(right, bottom));
-}
 
 /// The box's labels in the order in which it makes them.
 enum Label { TitleIcon, Title, Message, SubMessage, AlarmIcon };
@@ -28,478 +16,328 @@ static QLabel *label(const MessageBoxBase &box, Label which)
     return box.findChildren<QLabel *>().at(which);
 }
 
-using Prepare = void (*)(MessageBoxBase &);
-using SlideAct = void (*)(SlideMessageBox &);
-Q_DECLARE_METATYPE(Prepare)
-Q_DECLARE_METATYPE(SlideAct)
+template <class Box> class Filled : public Box
+{
+public:
+    explicit Filled(QWidget *parent) : Box(parent)
+    {
+        this->setTitle("Delete Contact");
+        this->setMessage("Delete Anna?");
+        this->additionalButton()->setText("More");
+        this->displayAdditionalButton(true);
+        this->displayAdditionalButton(false); // which does not take it away again
+        this->okButton()->setText("Delete");
+        this->cancelButton()->setText("No");
+        this->setExtraResult(Untouched);
+    }
+    QList<ImageButton *> buttons() { return {this->additionalButton(), this->okButton(), this->cancelButton()}; }
 
-class MessageBoxTest : public OverScreenTest
+    static constexpr int Untouched = 7;
+};
+using Box = Filled<MessageBox>;
+
+struct Places
+{
+    QString calls; ///< "m" sets the message, "s" the sub message, a capital empties it
+    QRect message, sub;
+    int subAlignment;
+};
+Q_DECLARE_METATYPE(Places)
+
+struct Ending
+{
+    Qt::Key key;
+    int button; ///< that lights up, of additional, OK and cancel; -1 for none
+    int result, extraResult;
+};
+Q_DECLARE_METATYPE(Ending)
+
+struct Look
+{
+    QString title, message, subMessage;
+    QStringList keys;
+    bool alarm = false;
+    int held = 0;
+};
+Q_DECLARE_METATYPE(Look)
+
+class MessageBoxTest : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void isBuilt();
-    void textsFindTheirPlaces_data();
-    void textsFindTheirPlaces();
-    void wideTextsStepDownOrWrap();
-    void keysEndIt_data();
-    void keysEndIt();
-    void hiddenButtonsTakeNoKeys();
-    void anEarlierPressDoesNotCount();
-    void afterTheFirstPressAnyReleaseCounts();
-    void theAdditionalKeyErases();
-    void theOkKeyTurnsPages();
-    void clicksEndIt();
-    void thePlatformHearsOfIt();
-    void theQuitTimerRunsOnce();
-    void theQuitTimerEndsWithTheBox();
-    void alarmsAreCutToOneLine();
-    void closedFromOutsideWhileItsOwnerWaits();
-    void deletedInASlot_data();
-    void deletedInASlot();
-    void theScreenGetsItsKeysBack();
-    void theSlidingBoxComesAndGoesAtOnce_data();
-    void theSlidingBoxComesAndGoesAtOnce();
-    void pictures_data();
-    void pictures();
-
-private:
-    static void fill(MessageBoxBase &box);
-
-};
-
-void MessageBoxTest::fill(MessageBoxBase &box)
-{
-    box.setTitle("Delete Contact");
-    box.setMessage("Delete Anna?");
-    box.additionalButton()->setText("More");
-    box.displayAdditionalButton(true);
-    box.okButton()->setText("Delete");
-    box.cancelButton()->setText("No");
-}
-
-void MessageBoxTest::isBuilt()
-{
-    MessageBox box(m_screen.get());
-    QCOMPARE(box.geometry(), corners(0, 0, 383, 159));
-    QCOMPARE(box.okButton()->parentWidget()->geometry(), corners(2, 27, 381, 159));
-    QCOMPARE(box.additionalButton()->geometry(), corners(90, 106, 184, 132));
-    QCOMPARE(box.okButton()->geometry(), corners(185, 106, 279, 132));
-    QCOMPARE(box.cancelButton()->geometry(), corners(280, 106, 374, 132));
-    box.setTitle("Title");
-    QCOMPARE(label(box, Title)->geometry(), corners(41, 0, 394, 31));
-    QCOMPARE(box.getTitle(), QString("Title"));
-    box.setMessage("Text");
-    box.setMessageMove();
-    QCOMPARE(label(box, Message)->geometry(), corners(15, 40, 383, 99));
-
-    QVERIFY(box.additionalButton()->isHidden());
-    box.displayAdditionalButton(true);
-    box.displayAdditionalButton(false);
-    QVERIFY(!box.additionalButton()->isHidden());
-}
-
-void MessageBoxTest::textsFindTheirPlaces_data()
-{
-    const QRect lone = corners(10, 32, 369, 105), upper = corners(10, 37, 369, 73),
-                lower = corners(10, 59, 369, 95);
-    const int middle = Qt::AlignHCenter | Qt::AlignVCenter, bottom = Qt::AlignHCenter | Qt::AlignBottom;
-    // "m" sets the message, "s" the sub message, a capital empties it.
-    QTest::addColumn<QString>("calls");
-    QTest::addColumn<QRect>("message");
-    QTest::addColumn<QRect>("sub");
-    QTest::addColumn<int>("subAlignment");
-    QTest::newRow("a message") << "m" << lone << lower << bottom;
-    QTest::newRow("a sub message") << "s" << upper << lone << middle;
-    QTest::newRow("message, then sub message") << "ms" << upper << lower << bottom;
-    QTest::newRow("sub message, then message") << "sm" << upper << lone << middle;
-    QTest::newRow("again the message") << "msm" << upper << lower << bottom;
-    QTest::newRow("the sub message goes") << "msSm" << lone << lower << bottom;
-    QTest::newRow("an empty sub message") << "mS" << upper << lower << bottom;
-}
-
-void MessageBoxTest::textsFindTheirPlaces()
-{
-    QFETCH(QString, calls);
-    MessageBox box(m_screen.get());
-    QLabel *message = label(box, Message), *sub = label(box, SubMessage);
-    for (const QChar call : calls) {
-        const QString text = call.isUpper() ? QString() : QString("Text");
-        if (call.toLower() == 'm')
-            box.setMessage(text);
-        else
-            box.setSubMessage(text);
+    void textsFindTheirPlaces_data()
+    {
+        const QRect lone(10, 32, 360, 74), upper(10, 37, 360, 37), lower(10, 59, 360, 37);
+        const int middle = Qt::AlignHCenter | Qt::AlignVCenter, bottom = Qt::AlignHCenter | Qt::AlignBottom;
+        addCases<Places>({{"a message", {"m", lone, lower, bottom}},
+                          {"a sub message", {"s", upper, lone, middle}},
+                          {"message, then sub message", {"ms", upper, lower, bottom}},
+                          {"sub message, then message", {"sm", upper, lone, middle}},
+                          {"again the message", {"msm", upper, lower, bottom}},
+                          {"the sub message goes", {"msSm", lone, lower, bottom}},
+                          {"an empty sub message", {"mS", upper, lower, bottom}}});
     }
-    QTEST(message->geometry(), "message");
-    QCOMPARE(int(message->alignment()), int(Qt::AlignHCenter | Qt::AlignVCenter));
-    QTEST(sub->geometry(), "sub");
-    QTEST(int(sub->alignment()), "subAlignment");
-}
 
-void MessageBoxTest::wideTextsStepDownOrWrap()
-{
-    const QString wide("Group members will move to Unassigned group");
-    MessageBox box(m_screen.get());
-    box.setMessage(wide);
-    QVERIFY(label(box, Message)->wordWrap());
-    QCOMPARE(label(box, Message)->font().pointSize(), 20);
-    box.setSubMessage(wide);
-    for (const Label which : {Message, SubMessage}) {
-        QVERIFY(!label(box, which)->wordWrap());
-        QCOMPARE(label(box, which)->font().pointSize(), 18);
+    void textsFindTheirPlaces()
+    {
+        QFETCH(Places, c);
+        MessageBox box(m_screen.get());
+        for (const QChar call : qAsConst(c.calls)) {
+            const QString text = call.isUpper() ? "" : "Text";
+            call.toLower() == 'm' ? box.setMessage(text) : box.setSubMessage(text);
+        }
+        QCOMPARE(label(box, Message)->geometry(), c.message);
+        QCOMPARE(int(label(box, Message)->alignment()), int(Qt::AlignHCenter | Qt::AlignVCenter));
+        QCOMPARE(label(box, SubMessage)->geometry(), c.sub);
+        QCOMPARE(int(label(box, SubMessage)->alignment()), c.subAlignment);
     }
-    box.setMessage("Delete the group?");
-    QCOMPARE(label(box, Message)->font().pointSize(), 20);
-}
 
-void MessageBoxTest::keysEndIt_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("button"); // of additional, OK and cancel; -1 for none
-    QTest::addColumn<int>("result");
-    QTest::addColumn<int>("extraResult");
-    const int Untouched = 7;
-    QTest::newRow("left soft key") << int(Qt::Key_Context2) << 0 << 1 << 1;
-    QTest::newRow("middle soft key") << int(Qt::Key_Context3) << 1 << 1 << 2;
-    QTest::newRow("Enter") << int(Qt::Key_Enter) << 1 << 1 << 2;
-    QTest::newRow("Return") << int(Qt::Key_Return) << 1 << 1 << 2;
-    QTest::newRow("right soft key") << int(Qt::Key_Context4) << 2 << 0 << 0;
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << 2 << 0 << 0;
-    QTest::newRow("first soft key") << int(Qt::Key_Context1) << -1 << StillOpen << Untouched;
-    QTest::newRow("a digit") << int(Qt::Key_5) << -1 << StillOpen << Untouched;
-    QTest::newRow("an arrow") << int(Qt::Key_Down) << -1 << StillOpen << Untouched;
-}
-
-void MessageBoxTest::keysEndIt()
-{
-    QFETCH(int, key);
-    QFETCH(int, button);
-    MessageBox box(m_screen.get());
-    fill(box);
-    box.setExtraResult(7);
-    QList<QList<bool>> looks{{}, {}, {}};
-    ImageButton *buttons[] = {box.additionalButton(), box.okButton(), box.cancelButton()};
-    for (int i = 0; i < 3; ++i)
-        connect(buttons[i], &ImageButton::isHover, &box, [&looks, i](bool hover) { looks[i].append(hover); });
-    const int result = runBox(box, [&] {
-        press(Qt::Key(key));
-        QVERIFY(box.isVisible());
-        release(Qt::Key(key));
-    });
-    QTEST(result, "result");
-    QTEST(box.extraResult(), "extraResult");
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(looks.at(i), i == button ? (QList<bool>{true, false}) : QList<bool>());
-}
-
-void MessageBoxTest::hiddenButtonsTakeNoKeys()
-{
-    MessageBox box(m_screen.get());
-    box.okButton()->hide();
-    box.cancelButton()->hide();
-    const int result = runBox(box, [&] {
-        for (const Qt::Key key :
-             {Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Context4, Qt::Key_Escape})
-            click(key);
-    });
-    QCOMPARE(result, StillOpen);
-}
-
-void MessageBoxTest::anEarlierPressDoesNotCount()
-{
-    press(Qt::Key_Return);
-    MessageBox box(m_screen.get());
-    const int result = runBox(box, [&] {
-        release(Qt::Key_Return);
-        QVERIFY(box.isVisible());
-        click(Qt::Key_Return);
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
-}
-
-void MessageBoxTest::afterTheFirstPressAnyReleaseCounts()
-{
-    MessageBox box(m_screen.get());
-    const int result = runBox(box, [&] {
-        press(Qt::Key_5);
-        release(Qt::Key_Return);
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
-}
-
-void MessageBoxTest::theAdditionalKeyErases()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    box.setSoft3ButtonToErase(true);
-    box.setExtraResult(7);
-    QLineEdit edit("abc", &box);
-    edit.setFocus();
-    const int result = runBox(box, [&] {
-        edit.deselect();
-        click(Qt::Key_Context2);
-        QCOMPARE(edit.text(), QString("ab"));
-    });
-    QCOMPARE(result, StillOpen);
-    QCOMPARE(box.extraResult(), 7);
-}
-
-void MessageBoxTest::theOkKeyTurnsPages()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    box.setSkipAccept(true);
-    QSignalSpy pages(&box, &MessageBoxBase::changeMessage);
-    const int result = runBox(box, [&] {
-        click(Qt::Key_Context3);
-        click(Qt::Key_Return);
-        QCOMPARE(pages.size(), 2);
-        QVERIFY(box.isVisible());
-        box.setSkipAccept(false);
-        click(Qt::Key_Return);
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(pages.size(), 2);
-}
-
-void MessageBoxTest::clicksEndIt()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    box.setExtraResult(7);
-    for (ImageButton *button : {box.additionalButton(), box.okButton(), box.cancelButton()}) {
-        const int result = runBox(box, [&] { QTest::mouseClick(button, Qt::LeftButton); });
-        QCOMPARE(result, button == box.cancelButton() ? 0 : 1);
-        QCOMPARE(box.extraResult(), 7);
-    }
-}
-
-void MessageBoxTest::thePlatformHearsOfIt()
-{
-    MessageBox box(m_screen.get());
-    m_phone->core.setAlarm(true);
-    runBox(box, [&] {
-        QVERIFY(!m_phone->core.useF13ToDel());
-        QVERIFY(m_phone->core.alarm());
-        box.hide();
-        QVERIFY(m_phone->core.useF13ToDel());
-        QVERIFY(!m_phone->core.alarm());
-    });
-}
-
-void MessageBoxTest::theQuitTimerRunsOnce()
-{
-    MessageBox box(m_screen.get());
-    QSignalSpy timeouts(&box, &MessageBoxBase::alarmTimeout);
-    connect(&box, &MessageBoxBase::alarmTimeout, &box, &QDialog::reject);
-    box.startQuitTimer(60000);
-    box.startQuitTimer(1);
-    QCOMPARE(box.findChildren<QTimer *>().size(), 1);
-    QCOMPARE(box.exec(), int(QDialog::Rejected));
-    QCOMPARE(timeouts.size(), 1);
-    box.cancelTimer();
-}
-
-void MessageBoxTest::theQuitTimerEndsWithTheBox()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    static constexpr int FromOutside = 0;
-    for (const int key : {int(Qt::Key_Return), int(Qt::Key_Context2), int(Qt::Key_Escape), FromOutside}) {
-        box.startQuitTimer(60000);
-        runBox(box, [&] {
-            if (key)
-                click(Qt::Key(key));
-            else
-                box.close();
-        });
-        QVERIFY(box.findChildren<QTimer *>().isEmpty());
-    }
-}
-
-void MessageBoxTest::alarmsAreCutToOneLine()
-{
-    MessageBox box(m_screen.get());
-    const QString text("Good morning, this is your alarm of half past six in the morning");
-    box.setMessage(text);
-    QLabel *message = label(box, Message);
-    box.showAlarmMessage();
-    QCOMPARE(message->geometry(), corners(54, 40, 54 + 344, 99));
-    QVERIFY(message->text().endsWith(QChar(0x2026)));
-    QCOMPARE(label(box, AlarmIcon)->pos(), QPoint(24, 58));
-    QVERIFY(!label(box, AlarmIcon)->isHidden());
-
-    // The box's own font measures.
-    MessageBox small(m_screen.get());
-    QFont font = small.font();
-    font.setPointSize(10);
-    small.setFont(font);
-    small.setMessage(text);
-    message = label(small, Message);
-    small.showAlarmMessage();
-    QCOMPARE(message->text(), text);
-    QCOMPARE(message->width(), QFontMetrics(font).horizontalAdvance(text) + 10);
-}
-
-void MessageBoxTest::closedFromOutsideWhileItsOwnerWaits()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    QCOMPARE(runBox(box,
-                    [&] {
-                        press(Qt::Key_Return);
-                        box.close();
-                        QVERIFY(!box.isVisible());
-                    }),
-             int(QDialog::Rejected));
-    // The release comes to the screen, and a box that is shown again hears nothing of it.
-    release(Qt::Key_Return);
-    QVERIFY(m_screen->isVisible());
-}
-
-void MessageBoxTest::deletedInASlot_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::newRow("as a key lights up") << int(Qt::Key_Return);
-    QTest::newRow("as a page turns") << int(Qt::Key_Return);
-    QTest::newRow("as the additional key ends it") << int(Qt::Key_Context2);
-    QTest::newRow("as Escape ends it") << int(Qt::Key_Escape);
-    QTest::newRow("as the alarm ends") << 0;
-}
-
-void MessageBoxTest::deletedInASlot()
-{
-    QFETCH(int, key);
-    QPointer<MessageBox> box = new MessageBox(m_screen.get());
-    fill(*box);
-    const auto remove = [&] { delete box; };
-    const QString when = QTest::currentDataTag();
-    if (when.contains("lights up")) {
-        connect(box->okButton(), &ImageButton::isHover, this, remove);
-    } else if (when.contains("page")) {
-        box->setSkipAccept(true);
-        connect(box, &MessageBoxBase::changeMessage, this, remove);
-    } else if (when.contains("alarm")) {
-        connect(box, &MessageBoxBase::alarmTimeout, this, remove);
-    } else {
-        connect(box, &QDialog::finished, this, remove);
-    }
-    QVERIFY(showAndActivate(box));
-    if (!key)
-        box->startQuitTimer(1);
-    else
-        press(Qt::Key(key));
-    if (key && box)
-        release(Qt::Key(key));
-    QTRY_VERIFY(!box);
-}
-
-void MessageBoxTest::theScreenGetsItsKeysBack()
-{
-    MessageBox box(m_screen.get());
-    fill(box);
-    QVERIFY(m_screen->list->hasFocus());
-    runBox(box, [&] {
-        QVERIFY(box.hasFocus());
-        click(Qt::Key_Tab);
-        QVERIFY(box.hasFocus());
-        click(Qt::Key_Escape);
-    });
-    m_screen->list->setFocus(Qt::OtherFocusReason);
-    QTRY_VERIFY(m_screen->list->hasFocus());
-    click(Qt::Key_Escape);
-    QVERIFY(!m_screen->isVisible());
-}
-
-void MessageBoxTest::theSlidingBoxComesAndGoesAtOnce_data()
-{
-    QTest::addColumn<SlideAct>("act");
-    QTest::addColumn<int>("result");
-    QTest::newRow("by OK") << SlideAct([](SlideMessageBox &) { click(Qt::Key_Return); }) << 1;
-    QTest::newRow("by the additional key") << SlideAct([](SlideMessageBox &) { click(Qt::Key_Context2); }) << 1;
-    QTest::newRow("by Escape") << SlideAct([](SlideMessageBox &) { click(Qt::Key_Escape); }) << 0;
-    QTest::newRow("closed") << SlideAct([](SlideMessageBox &box) { box.close(); }) << 0;
-    QTest::newRow("hidden") << SlideAct([](SlideMessageBox &box) { box.hide(); }) << 0;
-}
-
-void MessageBoxTest::theSlidingBoxComesAndGoesAtOnce()
-{
-    QFETCH(SlideAct, act);
-    SlideMessageBox box(m_screen.get());
-    fill(box);
-    box.setUseAnimation(true);
-    QTEST(runBox(box,
-                 [&] {
-                     QVERIFY(box.isVisible());
-                     QCOMPARE(box.geometry(), corners(0, 0, 383, 159));
-                     box.setBackgroundColor(Qt::red);
-                     act(box);
-                     QVERIFY(!box.isVisible());
-                 }),
-          "result");
-    QCOMPARE(box.property("backgroundColor").value<QColor>(), QColor(0, 0, 0, 0));
-    QCOMPARE(static_cast<MessageBoxBase &>(box).backgroundColor(), QColor(Qt::black));
-}
-
-void MessageBoxTest::pictures_data()
-{
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<int>("held");
-    const auto row
-        = [](const char *name, Prepare prepare, int held = 0) { QTest::newRow(name) << prepare << held; };
-    row("box-one-line", [](MessageBoxBase &box) { box.additionalButton()->hide(); });
-    row(
-        "box-pressed", [](MessageBoxBase &) {}, Qt::Key_Return);
-    row(
-        "box-cancel-pressed", [](MessageBoxBase &) {}, Qt::Key_Escape);
-    row("box-two-lines", [](MessageBoxBase &box) {
-        box.additionalButton()->hide();
+    void wideTextsStepDownOrWrap()
+    {
+        const QString wide("Group members will move to Unassigned group");
+        MessageBox box(m_screen.get());
+        box.setMessage(wide);
+        QVERIFY(label(box, Message)->wordWrap());
+        QCOMPARE(label(box, Message)->font().pointSize(), 20);
+        box.setSubMessage(wide);
+        for (const Label which : {Message, SubMessage}) {
+            QVERIFY(!label(box, which)->wordWrap());
+            QCOMPARE(label(box, which)->font().pointSize(), 18);
+        }
         box.setMessage("Delete the group?");
-        box.setSubMessage("Group members will move to Unassigned group");
-    });
-    row("box-long-text", [](MessageBoxBase &box) {
-        box.additionalButton()->hide();
-        box.setMessage("Do you want to delete the Bernd Maier-Leibnitz <work> in this group?");
-    });
-    row("box-korean", [](MessageBoxBase &box) {
-        box.setTitle(QString::fromUtf8("연락처 삭제"));
-        box.setMessage(QString::fromUtf8("김철수를 삭제할까요?"));
-        box.okButton()->setText(QString::fromUtf8("삭제"));
-        box.cancelButton()->setText(QString::fromUtf8("아니오"));
-    });
-    row("box-long-keys", [](MessageBoxBase &box) {
-        box.additionalButton()->setText("Create Group");
-        box.okButton()->setText("Add Contact");
-        box.cancelButton()->setText("Bestehender Kontakt");
-    });
-    row("box-alarm", [](MessageBoxBase &box) {
-        box.setTitle("Alarm");
-        box.setMessage("Wake up");
-        box.additionalButton()->hide();
-        box.showAlarmMessage();
-    });
-    row("box-long-alarm", [](MessageBoxBase &box) {
-        box.setMessage("Good morning, this is your alarm of half past six");
-        box.showAlarmMessage();
-    });
-}
+        QCOMPARE(label(box, Message)->font().pointSize(), 20);
+    }
 
-void MessageBoxTest::pictures()
-{
-    QFETCH(Prepare, prepare);
-    QFETCH(int, held);
-    MessageBox box(m_screen.get());
-    fill(box);
-    prepare(box);
-    QVERIFY(showAndActivate(&box));
-    if (held)
-        press(Qt::Key(held));
-    TestScreen::shot(QTest::currentDataTag());
-    const QImage shown = TestScreen::picture();
-    QCOMPARE(shown.pixelColor(20, 100), QColor(Qt::white));
-    // A corner of the OK key's body.
-    QCOMPARE(shown.pixelColor(192, 138), QColor(held == Qt::Key_Return ? Qt::black : Qt::white));
-}
+    void keysEndIt_data()
+    {
+        addCases<Ending>({{"left soft key", {Qt::Key_Context2, 0, 1, 1}},
+                          {"middle soft key", {Qt::Key_Context3, 1, 1, 2}},
+                          {"Enter", {Qt::Key_Enter, 1, 1, 2}},
+                          {"Return", {Qt::Key_Return, 1, 1, 2}},
+                          {"right soft key", {Qt::Key_Context4, 2, 0, 0}},
+                          {"Escape", {Qt::Key_Escape, 2, 0, 0}},
+                          {"first soft key", {Qt::Key_Context1, -1, StillOpen, Box::Untouched}},
+                          {"Tab", {Qt::Key_Tab, -1, StillOpen, Box::Untouched}}});
+    }
+
+    void keysEndIt()
+    {
+        QFETCH(Ending, c);
+        Box box(m_screen.get());
+        QStringList looks;
+        for (int i = 0; i < 3; ++i) {
+            connect(box.buttons().at(i), &ImageButton::isHover, &box,
+                    [&looks, i](bool hover) { looks.append(QString("%1 %2").arg(i).arg(hover)); });
+        }
+        const int result = runBox(box, [&] {
+            press(c.key);
+            QVERIFY(box.isVisible() && box.hasFocus());
+            release(c.key);
+        });
+        QCOMPARE(result, c.result);
+        QCOMPARE(box.extraResult(), c.extraResult);
+        const QStringList onAndOff{QString("%1 1").arg(c.button), QString("%1 0").arg(c.button)};
+        QCOMPARE(looks, c.button < 0 ? QStringList() : onAndOff);
+        // The screen gets its keys back.
+        m_screen->list->setFocus(Qt::OtherFocusReason);
+        QTRY_VERIFY(m_screen->list->hasFocus());
+    }
+
+    void hiddenButtonsTakeNoKeys()
+    {
+        MessageBox box(m_screen.get());
+        box.okButton()->hide();
+        box.cancelButton()->hide();
+        const auto keys = [] {
+            clickAll({Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Context4, Qt::Key_Escape});
+        };
+        QCOMPARE(runBox(box, keys), StillOpen);
+    }
+
+    void anEarlierPressDoesNotCount()
+    {
+        press(Qt::Key_Return);
+        MessageBox box(m_screen.get());
+        const int result = runBox(box, [&] {
+            release(Qt::Key_Return);
+            QVERIFY(box.isVisible());
+            click(Qt::Key_Return);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+    }
+
+    void theAdditionalKeyErases()
+    {
+        Box box(m_screen.get());
+        box.setSoft3ButtonToErase(true);
+        QLineEdit edit("abc", &box);
+        edit.setFocus();
+        const int result = runBox(box, [&] {
+            edit.deselect();
+            click(Qt::Key_Context2);
+            QCOMPARE(edit.text(), QString("ab"));
+        });
+        QCOMPARE(result, StillOpen);
+        QCOMPARE(box.extraResult(), Box::Untouched + 0);
+    }
+
+    void theOkKeyTurnsPages()
+    {
+        Box box(m_screen.get());
+        box.setSkipAccept(true);
+        QSignalSpy pages(&box, &MessageBoxBase::changeMessage);
+        const int result = runBox(box, [&] {
+            clickAll({Qt::Key_Context3, Qt::Key_Return});
+            QCOMPARE(pages.size(), 2);
+            QVERIFY(box.isVisible());
+            box.setSkipAccept(false);
+            click(Qt::Key_Return);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+        QCOMPARE(pages.size(), 2);
+    }
+
+    void thePlatformHearsOfIt()
+    {
+        MessageBox box(m_screen.get());
+        m_phone->core.setAlarm(true);
+        runBox(box, [&] {
+            QVERIFY(!m_phone->core.useF13ToDel() && m_phone->core.alarm());
+            box.hide();
+            QVERIFY(m_phone->core.useF13ToDel() && !m_phone->core.alarm());
+        });
+    }
+
+    void theQuitTimerRunsOnceAndEndsWithTheBox()
+    {
+        Box box(m_screen.get());
+        QSignalSpy timeouts(&box, &MessageBoxBase::alarmTimeout);
+        connect(&box, &MessageBoxBase::alarmTimeout, &box, &QDialog::reject);
+        box.startQuitTimer(60000);
+        box.startQuitTimer(1);
+        QCOMPARE(box.findChildren<QTimer *>().size(), 1);
+        QCOMPARE(box.exec(), int(QDialog::Rejected));
+        QCOMPARE(timeouts.size(), 1);
+
+        static constexpr int FromOutside = 0;
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Context2), int(Qt::Key_Escape), FromOutside}) {
+            box.startQuitTimer(60000);
+            runBox(box, [&] { key ? click(Qt::Key(key)) : void(box.close()); });
+            QVERIFY(box.findChildren<QTimer *>().isEmpty());
+        }
+    }
+
+    void alarmsAreCutToOneLine()
+    {
+        MessageBox box(m_screen.get());
+        box.setMessage("Good morning, this is your alarm of half past six in the morning");
+        box.showAlarmMessage();
+        const QLabel *message = label(box, Message);
+        QVERIFY(!label(box, AlarmIcon)->isHidden());
+        QVERIFY(message->text().endsWith(QChar(0x2026)));
+        QCOMPARE(message->x(), label(box, AlarmIcon)->x() + 30);
+        QCOMPARE(message->width(), 345);
+    }
+
+    void closedFromOutsideWhileAKeyIsHeld()
+    {
+        Box box(m_screen.get());
+        const int result = runBox(box, [&] {
+            press(Qt::Key_Return);
+            box.close();
+            QVERIFY(!box.isVisible());
+        });
+        QCOMPARE(result, int(QDialog::Rejected));
+        release(Qt::Key_Return);
+        QVERIFY(m_screen->isVisible());
+    }
+
+    void deletedInASlot()
+    {
+        static const Qt::Key keys[]
+            = {Qt::Key_Return, Qt::Key_Return, Qt::Key_5, Qt::Key_Context2, Qt::Key_Escape, Qt::Key_Return};
+        for (int signal = 0; signal < 6; ++signal) {
+            QPointer<Box> box = new Box(m_screen.get());
+            const auto remove = [&] { delete box; };
+            box->setSkipAccept(signal == 1);
+            switch (signal) {
+            case 0:
+            case 5:
+                connect(box->okButton(), &ImageButton::isHover, this, [&](bool on) {
+                    if (on == (signal == 0))
+                        delete box;
+                });
+                break;
+            case 1: connect(box, &MessageBoxBase::changeMessage, this, remove); break;
+            case 2: connect(box, &MessageBoxBase::alarmTimeout, this, remove); break;
+            default: connect(box, &QDialog::finished, this, remove); break;
+            }
+            QVERIFY(showAndActivate(box));
+            box->startQuitTimer(signal == 2 ? 1 : 60000);
+            m_phone->core.setAlarm(true);
+            press(keys[signal]);
+            if (box)
+                release(keys[signal]);
+            QTRY_VERIFY(!box);
+            QVERIFY2(signal != 5 || m_phone->core.alarm(), "the box went on after its end");
+        }
+    }
+
+    void theSlidingBoxComesAndGoesAtOnce()
+    {
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Context2), int(Qt::Key_Escape), 0}) {
+            Filled<SlideMessageBox> box(m_screen.get());
+            box.setUseAnimation(true);
+            const int result = runBox(box, [&] {
+                QCOMPARE(box.geometry(), QRect(0, 0, 384, 160));
+                key ? click(Qt::Key(key)) : void(box.close());
+                QVERIFY(!box.isVisible());
+            });
+            QCOMPARE(result, key == Qt::Key_Return || key == Qt::Key_Context2 ? 1 : 0);
+        }
+    }
+
+    void pictures_data()
+    {
+        const QString title("Delete Contact"), question("Delete Anna?");
+        const QStringList keys{"More", "Delete", "No"}, two{"", "Delete", "No"};
+        addCases<Look>(
+            {{"box-one-line", {title, question, "", two}},
+             {"box-pressed", {title, question, "", keys, false, Qt::Key_Return}},
+             {"box-cancel-pressed", {title, question, "", keys, false, Qt::Key_Escape}},
+             {"box-two-lines", {title, "Delete the group?", "Group members will move to Unassigned group", two}},
+             {"box-long-text",
+              {title, "Do you want to delete the Bernd Maier-Leibnitz <work> in this group?", "", two}},
+             {"box-korean", {"연락처 삭제", "김철수를 삭제할까요?", "", {"More", "삭제", "아니오"}}},
+             {"box-long-keys", {title, question, "", {"Create Group", "Add Contact", "Bestehender Kontakt"}}},
+             {"box-alarm", {"Alarm", "Wake up", "", two, true}},
+             {"box-long-alarm", {title, "Good morning, this is your alarm of half past six", "", keys, true}}});
+    }
+
+    void pictures()
+    {
+        QFETCH(Look, c);
+        Box box(m_screen.get());
+        box.setTitle(c.title);
+        box.setMessage(c.message);
+        if (!c.subMessage.isEmpty())
+            box.setSubMessage(c.subMessage);
+        for (int i = 0; i < 3; ++i)
+            box.buttons().at(i)->setText(c.keys.at(i));
+        box.additionalButton()->setVisible(!c.keys.first().isEmpty());
+        if (c.alarm)
+            box.showAlarmMessage();
+        QVERIFY(showAndActivate(&box));
+        if (c.held)
+            press(Qt::Key(c.held));
+        TestScreen::shot(QTest::currentDataTag());
+        const QImage shown = TestScreen::picture();
+        QCOMPARE(shown.pixelColor(20, 100), QColor(Qt::white));
+        // A corner of the OK key's body.
+        QCOMPARE(shown.pixelColor(192, 138), QColor(c.held == Qt::Key_Return ? Qt::black : Qt::white));
+    }
+};
 
 PHONE_TEST_MAIN(MessageBoxTest)
 #include "tst_messagebox.moc"

@@ -1,25 +1,18 @@
-#include "phonekeys.h"
+#include "screentest.h"
 #include "searchlineedit.h"
-#include "testcase.h"
-#include "testmain.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
-#include <QSignalSpy>
-
-#include <memory>
 
 using namespace PhoneKeys;
 
-/// A screen with a search line above something that can have the focus, which counts the keys that it is left.
-class SearchScreen : public QWidget
+/// A screen with a search line above something that can have the focus.
+class SearchScreen : public KeyCounter
 {
 public:
     SearchScreen() : search(new SearchLineEdit(this)), list(new QWidget(this))
     {
         setGeometry(0, 26, 384, 134);
-        QPalette white(Qt::white);
-        setPalette(white);
+        setPalette(QPalette(Qt::white));
         search->setGeometry(5, 2, 374, 33);
         list->setGeometry(5, 35, 374, 70);
         list->setFocusPolicy(Qt::StrongFocus);
@@ -28,95 +21,7 @@ public:
 
     SearchLineEdit *search;
     QWidget *list;
-    QList<int> presses;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override { presses.append(event->key()); }
 };
-
-class SearchLineEditTest : public TestCase
-{
-    Q_OBJECT
-
-    void setUp() override
-    {
-        m_screen.reset(new SearchScreen);
-        QVERIFY(showAndActivate(m_screen.get()));
-    }
-
-    void tearDown() override { m_screen.reset(); }
-
-private slots:
-    void theLineEditComesWithTheFocusAndGoesWithDown();
-    void withoutAnotherPlaceTheFocusStays();
-    void otherKeysReachTheScreen();
-    void textChangesAreTold();
-    void theTextStaysInItsPlace_data();
-    void theTextStaysInItsPlace();
-    void pictures();
-
-private:
-    std::unique_ptr<SearchScreen> m_screen;
-};
-
-void SearchLineEditTest::theLineEditComesWithTheFocusAndGoesWithDown()
-{
-    SearchLineEdit *search = m_screen->search;
-    QSignalSpy entered(search, &SearchLineEdit::enterFocus), left(search, &SearchLineEdit::leaveFocus);
-    QVERIFY(search->lineEdit()->isHidden());
-    search->setFocus();
-    QVERIFY(search->lineEdit()->hasFocus());
-    QCOMPARE(search->lineEdit()->geometry(), QRect(QPoint(8, 5), QPoint(374 - 35, 33 - 8)));
-    QCOMPARE(entered.size(), 1);
-
-    click(Qt::Key_Down);
-    QVERIFY(search->lineEdit()->isHidden());
-    QVERIFY(m_screen->list->hasFocus());
-    QCOMPARE(left.size(), 1);
-    QVERIFY(m_screen->presses.isEmpty());
-
-    search->setFocus();
-    m_screen->list->setFocus();
-    QVERIFY(search->lineEdit()->isVisible());
-    QCOMPARE(left.size(), 1);
-}
-
-void SearchLineEditTest::withoutAnotherPlaceTheFocusStays()
-{
-    m_screen->list->hide();
-    m_screen->search->setFocus();
-    click(Qt::Key_Down);
-    QVERIFY(m_screen->search->lineEdit()->isVisible());
-    QVERIFY(m_screen->search->lineEdit()->hasFocus());
-}
-
-void SearchLineEditTest::otherKeysReachTheScreen()
-{
-    m_screen->search->setFocus();
-    click(Qt::Key_Up);
-    click(Qt::Key_Context4);
-    QCOMPARE(m_screen->presses, (QList<int>{Qt::Key_Up, Qt::Key_Context4}));
-}
-
-void SearchLineEditTest::textChangesAreTold()
-{
-    QSignalSpy changed(m_screen->search, &SearchLineEdit::textChanged);
-    m_screen->search->setText("Anna");
-    m_screen->search->setText("Anna");
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first().first().toString(), QString("Anna"));
-    m_screen->search->setFocus();
-    QTest::keyClicks(m_screen->search->lineEdit(), "b");
-    QCOMPARE(changed.size(), 2);
-    QCOMPARE(m_screen->search->text(), QString("Annab"));
-}
-
-void SearchLineEditTest::theTextStaysInItsPlace_data()
-{
-    QTest::addColumn<int>("height");
-    QTest::newRow("local search") << 33;
-    QTest::newRow("directory search") << 34;
-}
 
 static bool isInked(const QPixmap &picture, int line)
 {
@@ -128,40 +33,94 @@ static bool isInked(const QPixmap &picture, int line)
     return false;
 }
 
-/// The text looks the same with the line edit and without, so that nothing jumps as the focus goes.
-void SearchLineEditTest::theTextStaysInItsPlace()
+class SearchLineEditTest : public TestCase
 {
-    QFETCH(int, height);
-    SearchLineEdit *search = m_screen->search;
-    search->setGeometry(5, 2, 374, height);
-    search->setText(QString::fromUtf8("Ägypten, 김철수"));
-    const QRect field = search->lineEdit()->geometry();
-    const QImage drawn = search->grab(field).toImage();
-    // Letters that hang below the line are whole: they end with the field.
-    QVERIFY(isInked(search->grab(field), field.height() - 1));
-    QVERIFY(!isInked(search->grab(field.translated(0, 1)), field.height() - 1));
-    search->lineEdit()->setReadOnly(true); // no cursor
-    search->setFocus();
-    const QImage edited = search->grab(field).toImage();
-    search->lineEdit()->setCursorPosition(0);
-    QCOMPARE(drawn, edited);
-}
+    Q_OBJECT
 
-void SearchLineEditTest::pictures()
-{
-    SearchLineEdit *search = m_screen->search;
-    TestScreen::shot("search-empty");
-    search->setText(QString::fromUtf8("Ägypten (gj) 김철수"));
-    TestScreen::shot("search-text");
-    search->setFocus();
-    TestScreen::shot("search-focus");
-    click(Qt::Key_Down);
-    search->setText("A text that is longer than the field of the search line has room");
-    TestScreen::shot("search-long");
-    search->setSearchLineMode(false);
-    search->update();
-    TestScreen::shot("search-plain");
-}
+    void setUp() override
+    {
+        m_screen.reset(new SearchScreen);
+        m_search = m_screen->search;
+        QVERIFY(showAndActivate(m_screen.get()));
+    }
+    void tearDown() override { m_screen.reset(); }
+
+private slots:
+    void theLineEditComesWithTheFocusAndGoesWithDown()
+    {
+        QSignalSpy entered(m_search, &SearchLineEdit::enterFocus), left(m_search, &SearchLineEdit::leaveFocus);
+        QVERIFY(m_search->lineEdit()->isHidden());
+        m_search->setFocus();
+        QVERIFY(m_search->lineEdit()->hasFocus());
+        QCOMPARE(entered.size(), 1);
+        clickAll({Qt::Key_Up, Qt::Key_Context4, Qt::Key_Down});
+        QCOMPARE(m_screen->presses, (QList<int>{Qt::Key_Up, Qt::Key_Context4}));
+        QVERIFY(m_search->lineEdit()->isHidden() && m_screen->list->hasFocus());
+        QCOMPARE(left.size(), 1);
+
+        m_search->setFocus();
+        m_screen->list->setFocus();
+        QVERIFY(m_search->lineEdit()->isVisible());
+        QCOMPARE(left.size(), 1);
+
+        // Without another place the focus stays.
+        m_search->setFocus();
+        m_screen->list->hide();
+        click(Qt::Key_Down);
+        QVERIFY(m_search->lineEdit()->isVisible() && m_search->lineEdit()->hasFocus());
+    }
+
+    void textChangesAreTold()
+    {
+        QSignalSpy changed(m_search, &SearchLineEdit::textChanged);
+        m_search->setText("Anna");
+        m_search->setText("Anna");
+        QCOMPARE(changed.size(), 1);
+        m_search->setFocus();
+        QTest::keyClicks(m_search->lineEdit(), "b");
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(changed.last().first().toString(), QString("Annab"));
+        QCOMPARE(m_search->text(), QString("Annab"));
+    }
+
+    /// The text looks the same with the line edit and without, so that nothing jumps as the focus goes.
+    void theTextStaysInItsPlace()
+    {
+        m_search->setText("Ägypten, 김철수");
+        m_search->lineEdit()->setReadOnly(true); // no cursor
+        for (const int height : {33 /* local search */, 34 /* in a directory */}) {
+            m_screen->list->setFocus();
+            m_search->lineEdit()->hide();
+            m_search->setGeometry(5, 2, 374, height);
+            const QRect field = m_search->lineEdit()->geometry();
+            const QImage drawn = m_search->grab(field).toImage();
+            // Letters that hang below the line are whole: they end with the field.
+            QVERIFY(isInked(m_search->grab(field), field.height() - 1));
+            QVERIFY(!isInked(m_search->grab(field.translated(0, 1)), field.height() - 1));
+            m_search->setFocus();
+            QCOMPARE(drawn, m_search->grab(field).toImage());
+        }
+    }
+
+    void pictures()
+    {
+        TestScreen::shot("search-empty");
+        m_search->setText("Ägypten (gj) 김철수");
+        TestScreen::shot("search-text");
+        m_search->setFocus();
+        TestScreen::shot("search-focus");
+        click(Qt::Key_Down);
+        m_search->setText("A text that is longer than the field of the search line has room");
+        TestScreen::shot("search-long");
+        m_search->setSearchLineMode(false);
+        m_search->update();
+        TestScreen::shot("search-plain");
+    }
+
+private:
+    std::unique_ptr<SearchScreen> m_screen;
+    SearchLineEdit *m_search = nullptr;
+};
 
 PHONE_TEST_MAIN(SearchLineEditTest)
 #include "tst_searchlineedit.moc"

@@ -14,15 +14,13 @@
 #include "qcalllist.h"
 #include "ringtones.h"
 #include "screenwatch.h"
+#include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
 #include "wpsmcontactmanager.h"
 
 #include <QLabel>
-#include <QSettings>
 #include <QTimer>
-
-#include <array>
 
 namespace {
 
@@ -31,11 +29,6 @@ constexpr QRect TypeIconGeometry(0, 4, 24, 24);
 constexpr int FlowDelay = 1000; // ms
 
 enum SoftKey { CallKey = 0, MessageKey = 1, DeleteKey = 2, EditKey = 3 };
-
-/// The pictures of numbers by their kind.
-constexpr std::array<const char *, 5> kindPictures
-    = {"menu_icon_office", "menu_icon_mobile", "menu_icon_home", "menu_icon_fax", "menu_icon_etc_2"};
-const char plainPicture[] = "menu_icon_etc_2";
 
 }
 
@@ -95,8 +88,7 @@ ContactData DetailsDial::readContact(int id) const
 ListViewContactItem *DetailsDial::addRow(const QString &label, const QString &text, const QString &picture)
 {
     auto *row = new ListViewContactItem(text, label);
-    const QString stem = ":/contact/images/" + picture;
-    row->setPixmap(QPixmap(stem + ".png"), QPixmap(stem + "_press.png"));
+    row->setPixmap(QPixmap(picture + ".png"), QPixmap(picture + "_press.png"));
     m_listView->addItem(row);
     return row;
 }
@@ -108,6 +100,7 @@ void DetailsDial::setupListViewItems(int id)
     m_listView->itemClear();
     const ContactData contact = readContact(id);
     m_contactName = contact.name;
+    const QString plainPicture = numberPicture(ContactData::Etc);
 
     addRow(tr("Name"), contact.name, plainPicture);
     if (m_contactType == ContactData::LocalContact)
@@ -118,7 +111,7 @@ void DetailsDial::setupListViewItems(int id)
         if (contact.number(slot).isEmpty())
             continue;
         const auto kind = contact.numberType(slot);
-        addRow(getNumberTypeStr(kind), contact.number(slot), kindPictures[kind])
+        addRow(getNumberTypeStr(kind), contact.number(slot), numberPicture(kind))
             ->setItemType(ListViewContactItem::ItemTypeMarked);
         ++m_numberCount;
     }
@@ -181,9 +174,9 @@ void DetailsDial::tailFuncButtonClicked(int idx)
     if (idx == CallKey && label == tr("Call")) {
         callByNumber();
     } else if (idx == MessageKey && label == tr("Message")) {
-        const QSettings provisioning(theCore->sipConfigFileName("phone_info.conf"), QSettings::IniFormat);
-        const bool loggedOut = provisioning.value("Prov_Info/LoginMode").toString().isEmpty()
-            && provisioning.value("Prov_Info/Id").toString().isEmpty();
+        const SettingsFile provisioning(theCore->sipConfigFileName("phone_info.conf"));
+        const bool loggedOut
+            = provisioning.value("Prov_Info/LoginMode").isEmpty() && provisioning.value("Prov_Info/Id").isEmpty();
         if (loggedOut)
             Notices::show(this, tr("Logout status"), Notices::Icon::Error);
         else

@@ -35,3 +35,11 @@ int getNumberType(const QString &label)
     }
     return ContactData::Company;
 }
+
+QString numberPicture(int type)
+{
+    static constexpr std::array<const char *, 5> pictures
+        = {"menu_icon_office", "menu_icon_mobile", "menu_icon_home", "menu_icon_fax", "menu_icon_etc_2"};
+    const bool known = type >= ContactData::Company && type <= ContactData::Etc;
+    return QLatin1String(":/contact/images/") + pictures[known ? type : ContactData::Etc];
+}

@@ -12,4 +12,7 @@ int getNumberType(const QString &label);
 /// Whether the label is that of a number.
 bool isNumberLabel(const QString &label);
 
+/// The path of a kind's picture without its ".png"; with "_press" behind it, that of the pressed one.
+QString numberPicture(int type);
+
 #endif

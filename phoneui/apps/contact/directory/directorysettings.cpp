@@ -1,7 +1,8 @@
 #include "directorysettings.h"
 
+#include "settingsfile.h"
+
 #include <QDebug>
-#include <QSettings>
 
 #include <cstdlib>
 
@@ -12,14 +13,14 @@ const char s_page[] = "DirectoryService/Page";
 const char s_path[] = "DirectoryService/Path";
 const char s_timeStamp[] = "DirectoryService/TimeStamp";
 
-class Settings : public QSettings
+class Settings : public SettingsFile
 {
 public:
-    Settings() : QSettings(QLatin1String(s_file), QSettings::IniFormat) { }
+    Settings() : SettingsFile(QLatin1String(s_file), Shared) { }
 
-    void finish()
+    void finish() const
     {
-        sync();
+        save();
         if (std::system("sync") != 0)
             qDebug() << "DirectorySettings: the kernel's caches could not be written";
     }
@@ -29,32 +30,32 @@ public:
 
 int DirectorySettings::page()
 {
-    return Settings().value(QLatin1String(s_page)).toInt();
+    return Settings().number(QLatin1String(s_page));
 }
 
 void DirectorySettings::setPage(int page)
 {
     Settings settings;
-    settings.setValue(QLatin1String(s_page), page);
+    settings.set(QLatin1String(s_page), QString::number(page));
     settings.finish();
 }
 
 QString DirectorySettings::path()
 {
-    return Settings().value(QLatin1String(s_path)).toString();
+    return Settings().value(QLatin1String(s_path));
 }
 
 QString DirectorySettings::timeStamp()
 {
-    return Settings().value(QLatin1String(s_timeStamp)).toString();
+    return Settings().value(QLatin1String(s_timeStamp));
 }
 
 void DirectorySettings::setHandles(const QString &path, const QString &timeStamp)
 {
     Settings settings;
     if (!path.isNull())
-        settings.setValue(QLatin1String(s_path), path);
+        settings.set(QLatin1String(s_path), path);
     if (!timeStamp.isNull())
-        settings.setValue(QLatin1String(s_timeStamp), timeStamp);
+        settings.set(QLatin1String(s_timeStamp), timeStamp);
     settings.finish();
 }

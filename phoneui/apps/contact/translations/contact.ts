@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directory Service</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Department</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Mobile</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>Save contact</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>Do you want to save number?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>Existing</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Delete other Number First</translation>
     <message>
         <source>Etc</source>
         <translation>Etc</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>Contacts | Search</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>No Result</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directory Service</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>Search Type</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>The keyword is too short</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>Input at least 3 digits</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>No Result</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directory Service</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>page</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Unassigned</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>System Phonebook</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Unassigned</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>System Phonebook</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrufen</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Abteilung</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Mobil</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>Kontakt speichern</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>Nummer speichern?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>Vorhanden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbruch</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Zuerst eine andere löschen.</translation>
     <message>
         <source>Etc</source>
         <translation>Andere:</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>Kontakte | Suchen</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrufen</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>Suche nach</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>Das Suchwort ist zu kurz</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>Mindestens 3 Ziffern eingeben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbruch</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation> S.</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrufen</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Ohne Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>System-Telefonbuch</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Ohne Gruppe</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>System-Telefonbuch</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrufen</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

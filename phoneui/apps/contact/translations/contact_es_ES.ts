@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directorio</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamar</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Cargo</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Departamento</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Móvil</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>Guardar contacto</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>¿Guardar el número?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>Existente</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Borre antes otro número.</translation>
     <message>
         <source>Etc</source>
         <translation>Otro:</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>Contactos | Buscar</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>Sin resultados</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamar</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directorio</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>Buscar por</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>La palabra es muy corta</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>Escriba al menos 3 cifras</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>Sin resultados</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>Directorio</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation> pág.</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamar</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Sin grupo</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Agenda del sistema</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Sin grupo</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Agenda del sistema</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamar</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

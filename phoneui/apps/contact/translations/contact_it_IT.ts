@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Elenco aziendale</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chiama</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Scrivi</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Qualifica</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Reparto</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Cellulare</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>Salva contatto</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>Salvare il numero?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>Esistente</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Eliminarne prima un altro.</translation>
     <message>
         <source>Etc</source>
         <translation>Altro:</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>Contatti | Cerca</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>Nessun risultato</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chiama</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Elenco aziendale</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>Cerca per</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>La parola è troppo corta</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>Inserire almeno 3 cifre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>Nessun risultato</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>Elenco aziendale</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation> pag.</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chiama</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Scrivi</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Senza gruppo</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Rubrica di sistema</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppi</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Senza gruppo</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Rubrica di sistema</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppi</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chiama</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>디렉터리 서비스</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>전화</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>직위</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>부서</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>휴대폰</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>연락처 저장</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>번호를 저장할까요?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>새 연락처</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>기존</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Delete other Number First</source>
     <message>
         <source>Etc</source>
         <translation>기타</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>연락처 | 검색</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>검색 결과 없음</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>전화</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>디렉터리 서비스</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>검색 방법</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>검색어가 너무 짧습니다</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>숫자를 3자리 이상 입력하세요</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>검색 결과 없음</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>디렉터리 서비스</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>페이지</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>전화</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>미지정</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>시스템 전화번호부</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>그룹</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>미지정</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>시스템 전화번호부</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>그룹</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>전화</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

@@ -168,6 +168,69 @@
     </message>
 </context>
 <context>
+    <name>DirectorySearchDetail</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Dizin</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Ara</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mesaj</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numara</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Görev</translation>
+    </message>
+    <message>
+        <source>Department</source>
+        <translation>Bölüm</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Cep</translation>
+    </message>
+    <message>
+        <source>Save contact</source>
+        <translation>Kişiyi kaydet</translation>
+    </message>
+    <message>
+        <source>Do you want to save number?</source>
+        <translation>Numara kaydedilsin mi?</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Yeni</translation>
+    </message>
+    <message>
+        <source>Existing</source>
+        <translation>Mevcut</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
     <name>GroupAdd</name>
     <message>
         <source>Contacts | Create Group </source>
@@ -509,6 +572,147 @@ Delete other Number First</source>
     <message>
         <source>Etc</source>
         <translation>Diğer:</translation>
+    </message>
+</context>
+<context>
+    <name>SearchAll</name>
+    <message>
+        <source>Contacts | Search</source>
+        <translation>Kişiler | Bul</translation>
+    </message>
+    <message>
+        <source>No Result</source>
+        <translation>Sonuç yok</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Ara</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDir</name>
+    <message>
+        <source>Directory Service</source>
+        <translation>Dizin</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Bul</translation>
+    </message>
+    <message>
+        <source>Search Type</source>
+        <translation>Arama ölçütü</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numara</translation>
+    </message>
+    <message>
+        <source>The keyword is too short</source>
+        <translation>Sözcük çok kısa</translation>
+    </message>
+    <message>
+        <source>Input at least 3 digits</source>
+        <translation>En az 3 rakam girin</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>SearchDirResult</name>
+    <message>
+        <source>No Result</source>
+        <translation>Sonuç yok</translation>
+    </message>
+    <message>
+        <source>Directory Service</source>
+        <translation>Dizin</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation> sayfa</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Ara</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mesaj</translation>
+    </message>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryModel</name>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Grup yok</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookCategoryWidget</name>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Sistem rehberi</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruplar</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookListWidget</name>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Unassigned</source>
+        <translation>Grup yok</translation>
+    </message>
+    <message>
+        <source>System Phonebook</source>
+        <translation>Sistem rehberi</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruplar</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Ara</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPhonebookWidget</name>
+    <message>
+        <source>&lt;</source>
+        <translation>&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,15 @@
 #include "programkeys.h"
 
 #include "contactdata.h"
-
-#include <QSettings>
+#include "settingsfile.h"
 
 #include <algorithm>
+
+/// Where a key's name or number stands in the file; the places count from 1.
+static QString keyOf(int idx, const char *item)
+{
+    return QString("Keys/%1/%2").arg(idx + 1).arg(item);
+}
 
 ProgramKeys::ProgramKeys(const QString &path) : m_path(path)
 {
@@ -16,50 +21,46 @@ int ProgramKeys::set(const QString &name, const QString &number)
     const QString bare = ContactData::bareNumber(number);
     if (bare.isEmpty())
         return -1;
+    QList<ProgramKey> keys = m_keys;
     const auto known
-        = std::find_if(m_keys.begin(), m_keys.end(), [&](const ProgramKey &key) { return key.number == bare; });
-    const int idx = static_cast<int>(known - m_keys.begin());
-    if (known != m_keys.end())
+        = std::find_if(keys.begin(), keys.end(), [&](const ProgramKey &key) { return key.number == bare; });
+    const int idx = static_cast<int>(known - keys.begin());
+    if (known != keys.end())
         known->name = name;
     else if (isFull())
         return -1;
     else
-        m_keys.append({name, bare});
-    save();
-    return idx;
+        keys.append({name, bare});
+    return keep(keys) ? idx : -1;
 }
 
 void ProgramKeys::remove(int idx)
 {
-    m_keys.removeAt(idx);
-    save();
+    QList<ProgramKey> keys = m_keys;
+    keys.removeAt(idx);
+    keep(keys);
 }
 
 void ProgramKeys::load()
 {
-    QSettings file(m_path, QSettings::IniFormat);
-    const int count = qMin(file.beginReadArray("Keys"), MostKeys);
-    for (int i = 0; i < count; ++i) {
-        file.setArrayIndex(i);
-        // A file that was written by hand may hold anything, and an unquoted comma makes a list of a value.
-        const QString number = ContactData::bareNumber(file.value("Number").toString());
+    const SettingsFile file(m_path);
+    for (int i = 0; i < MostKeys; ++i) {
+        const QString number = ContactData::bareNumber(file.value(keyOf(i, "Number")));
         if (!number.isEmpty())
-            m_keys.append({file.value("Name").toStringList().join(", "), number});
+            m_keys.append({file.value(keyOf(i, "Name")), number});
     }
 }
 
-void ProgramKeys::save() const
+bool ProgramKeys::keep(const QList<ProgramKey> &keys)
 {
-    QSettings file(m_path, QSettings::IniFormat);
-    file.remove("Keys");
-    file.beginWriteArray("Keys", m_keys.size());
-    for (int i = 0; i < m_keys.size(); ++i) {
-        file.setArrayIndex(i);
-        file.setValue("Name", m_keys.at(i).name);
-        file.setValue("Number", m_keys.at(i).number);
+    SettingsFile file(m_path);
+    file.removeSection("Keys");
+    for (int i = 0; i < keys.size(); ++i) {
+        file.set(keyOf(i, "Name"), keys.at(i).name);
+        file.set(keyOf(i, "Number"), keys.at(i).number);
     }
-    file.endArray();
-    file.sync();
-    if (file.status() != QSettings::NoError)
-        qWarning("The program keys cannot be kept in %s", qPrintable(m_path));
+    if (!file.save())
+        return false;
+    m_keys = keys;
+    return true;
 }

@@ -1,34 +1,28 @@
 #include "favourite.h"
 
 #include "contactdata.h"
-
-#include <QSettings>
+#include "settingsfile.h"
 
 static const char nameKey[] = "Favourite/Name";
 static const char numberKey[] = "Favourite/Number";
 
 Favourite::Favourite(const QString &path) : m_path(path)
 {
-    const QSettings file(path, QSettings::IniFormat);
-    m_name = file.value(nameKey).toStringList().join(", "); // written by hand, a comma makes a list
-    m_number = ContactData::bareNumber(file.value(numberKey).toString());
+    const SettingsFile file(path);
+    m_name = file.value(nameKey);
+    m_number = ContactData::bareNumber(file.value(numberKey));
 }
 
 void Favourite::set(const QString &name, const QString &number)
 {
     const QString bare = ContactData::bareNumber(number);
-    if (bare.isEmpty())
-        return;
-    m_name = name;
-    m_number = bare;
-    save();
+    if (!bare.isEmpty())
+        keep(name, bare);
 }
 
 void Favourite::clear()
 {
-    m_name.clear();
-    m_number.clear();
-    save();
+    keep(QString(), QString());
 }
 
 bool Favourite::isNumber(const QString &number) const
@@ -48,12 +42,13 @@ void Favourite::numberDeleted(const QString &number)
         clear();
 }
 
-void Favourite::save() const
+void Favourite::keep(const QString &name, const QString &number)
 {
-    QSettings file(m_path, QSettings::IniFormat);
-    file.setValue(nameKey, m_name);
-    file.setValue(numberKey, m_number);
-    file.sync();
-    if (file.status() != QSettings::NoError)
-        qWarning("The favourite cannot be kept in %s", qPrintable(m_path));
+    SettingsFile file(m_path);
+    file.set(nameKey, name);
+    file.set(numberKey, number);
+    if (!file.save())
+        return;
+    m_name = name;
+    m_number = number;
 }

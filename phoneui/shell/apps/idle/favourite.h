@@ -4,7 +4,7 @@
 #include <QString>
 
 /// The person whom the home screen offers to call: the one to whom a program key was given last. Kept in a settings
-/// file; follows what happens to the contact.
+/// file, and as it was while that cannot be written; follows what happens to the contact.
 class Favourite
 {
 public:
@@ -23,7 +23,7 @@ public:
 
 private:
     bool isNumber(const QString &number) const;
-    void save() const;
+    void keep(const QString &name, const QString &number);
 
     const QString m_path;
     QString m_name;

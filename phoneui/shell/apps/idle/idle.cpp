@@ -1,6 +1,7 @@
 #include "idle.h"
 
 #include "callmanager.h"
+#include "conffile.h"
 #include "control/apppayload.h"
 #include "core.h"
 #include "dialer.h"
@@ -9,12 +10,14 @@
 #include "status.h"
 #include "tail.h"
 
+#include <QDataStream>
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
+#include <QSettings>
 
-#include <iterator>
+#include <array>
 
 namespace {
 
@@ -24,26 +27,12 @@ constexpr QRect ClockRect(0, 8, 384, 60), DateRect(0, 68, 384, 28);
 constexpr QRect UpperClockRect(0, 0, 384, 52), UpperDateRect(0, 51, 384, 24);
 constexpr int FavouriteTop = 78, FavouriteHeight = 24, FavouriteMostWidth = 340;
 
-/// The soft keys and the applications that they launch.
-struct Way
-{
-    const char *label;
-    const char *app;
-};
-constexpr Way ways[] = {
-    {QT_TRANSLATE_NOOP("Idle", "Contacts"), "contact"},
-    {QT_TRANSLATE_NOOP("Idle", "History"), "history"},
-    {QT_TRANSLATE_NOOP("Idle", "Messages"), "message"},
-    {QT_TRANSLATE_NOOP("Idle", "Keys"), "aom"},
-};
+constexpr int CallKey = 2; // during a call, the way back to it takes the place of another
 
-/// During a call the way back to it takes the place of another.
-constexpr Way wayToCall = {QT_TRANSLATE_NOOP("Idle", "Call"), "call"};
-constexpr int CallKey = 2;
-
-const Way &wayOf(int key)
+bool hasDirectoryServer()
 {
-    return key == CallKey && theCore->callManager()->callState() != "IDLE" ? wayToCall : ways[key];
+    const QSettings provisioning(getConfFilePath("CONFIG", "PINFO_CONF"), QSettings::IniFormat);
+    return !provisioning.value("Directory_svc/Addr").toString().isEmpty();
 }
 
 bool isOk(int key)
@@ -52,6 +41,14 @@ bool isOk(int key)
 }
 
 }
+
+/// A soft key and the application that it launches.
+struct Idle::Way
+{
+    const char *label;
+    const char *app;
+    void (Idle::*run)() = nullptr; ///< for a way that is no mere launch
+};
 
 Idle::Idle()
     : BaseWidget(nullptr), BaseAppInterface("idle", nullptr), m_favourite(theCore->home().path("config/idle.ini"))
@@ -152,18 +149,61 @@ void Idle::setupStatus()
     theCore->setCurrentActivateApp(appName());
     if (status)
         status->setTitle(tr("Home"));
+    m_hasDirectory = hasDirectoryServer();
+    m_furtherWays = false;
+    setupTail();
+}
+
+const Idle::Way &Idle::wayOf(int key) const
+{
+    using Ways = std::array<Way, Tail::ButtonCount>;
+    static constexpr Way contacts{QT_TR_NOOP("Contacts"), "contact"}, history{QT_TR_NOOP("History"), "history"},
+        messages{QT_TR_NOOP("Messages"), "message"}, keys{QT_TR_NOOP("Keys"), "aom"},
+        call{QT_TR_NOOP("Call"), "call"}, nowhere{"", nullptr};
+    static constexpr Way directory{QT_TR_NOOP("Directory"), nullptr, &Idle::openDirectory},
+        further{QT_TR_NOOP(">"), nullptr, &Idle::turnWays};
+    static constexpr Ways plain{contacts, history, messages, keys};
+    // With a directory there is one way more than keys.
+    static constexpr Ways first{contacts, history, messages, further}, second{directory, keys, nowhere, further};
+
+    if (key == CallKey && theCore->callManager()->callState() != "IDLE")
+        return call;
+    const Ways &shown = !m_hasDirectory ? plain : m_furtherWays ? second : first;
+    return shown[key];
 }
 
 void Idle::setupTail()
 {
-    for (int key = 0; key < int(std::size(ways)); ++key)
+    for (int key = 0; key < Tail::ButtonCount; ++key)
         tail->setFuncButtonText(key, tr(wayOf(key).label));
+}
+
+void Idle::turnWays()
+{
+    m_furtherWays = !m_furtherWays;
+    setupTail();
 }
 
 void Idle::softKeyClicked(int idx)
 {
-    if (idx >= 0 && idx < int(std::size(ways)))
-        theCore->launch(wayOf(idx).app, nullptr);
+    if (idx < 0 || idx >= Tail::ButtonCount)
+        return;
+    const Way way = wayOf(idx);
+    if (way.run)
+        (this->*way.run)();
+    else if (way.app)
+        theCore->launch(way.app, nullptr);
+}
+
+/// The search closes the contacts with itself, so they are there below it.
+void Idle::openDirectory()
+{
+    if (!theCore->isVisibleContact())
+        theCore->launch("contact", nullptr);
+    QByteArray noWord;
+    QDataStream stream(&noWord, QIODevice::WriteOnly);
+    stream << QString("");
+    theCore->sendAppMsg("contact", "viewContactSearchDir(str)", noWord);
 }
 
 void Idle::callFavourite()

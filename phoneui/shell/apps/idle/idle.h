@@ -32,9 +32,14 @@ protected:
 
 private:
     struct Command;
+    struct Way;
 
+    /// Where a soft key leads at the moment.
+    const Way &wayOf(int key) const;
     void setupTail();
     void softKeyClicked(int idx);
+    void turnWays();
+    void openDirectory();
     void callFavourite();
     void chooseLanguage();
 
@@ -52,6 +57,8 @@ private:
     QTimer m_clockTimer;
     Favourite m_favourite;
     LanguageChoice m_languageChoice;
+    bool m_hasDirectory = false; ///< the phone is set up with a directory server
+    bool m_furtherWays = false; ///< the second set of soft keys shows
     bool m_okPressed = false; ///< here, and not in what closed above
     bool m_hashPressed = false; ///< the same
 };

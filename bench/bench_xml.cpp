@@ -1,0 +1,193 @@
+// The directory's answers through this phone's XML reader and through three others: parse, read every field, free.
+
+#include "ezxml.h"
+
+#include <benchmark/benchmark.h>
+
+#include <expat.h>
+#include <pugixml.hpp>
+#include <rapidxml/rapidxml.hpp>
+
+#include <cstring>
+#include <ctime>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string data(const char *type, const char *label, const std::string &value, bool isPhone)
+{
+    return std::string("    <data fontsize=\"20\" isphone=\"") + (isPhone ? "true" : "false") + "\">\n      <type>"
+        + type + "</type>\n      <label>" + label + "</label>\n      <value>" + value + "</value>\n    </data>\n";
+}
+
+const std::string &document(int items)
+{
+    static std::map<int, std::string> documents;
+    std::string &text = documents[items];
+    if (!text.empty())
+        return text;
+    text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<directory>\n  <display charset=\"utf-8\" pageinfo=\"1/1\" "
+           "path=\"/pages\" count=\""
+        + std::to_string(items) + "\" timestamp=\"20240501120000\"/>\n";
+    for (int i = 0; i < items; ++i) {
+        const std::string number = std::to_string(i);
+        text += "  <item>\n" + data("name", "Name", "Marguerite Featherstone " + number, false)
+            + data("number", "Number", "+49 30 5550 " + number, true)
+            + data("department", "Department", "Research &amp; Development " + std::to_string(i % 40), false)
+            + "  </item>\n";
+    }
+    return text += "</directory>\n";
+}
+
+/// What a reader found, so that none gets away with reading less.
+struct Sum
+{
+    std::size_t fields = 0;
+    std::size_t bytes = 0;
+
+    void add(const char *text)
+    {
+        ++fields;
+        bytes += std::strlen(text);
+    }
+};
+
+Sum readOurs(char *text, std::size_t length)
+{
+    Sum sum;
+    ezxml *root = ezxml_parse_str(text, length);
+    sum.add(ezxml_attr(ezxml_child(root, "display"), "count"));
+    for (ezxml *item = ezxml_child(root, "item"); item; item = item->next) {
+        for (ezxml *field = ezxml_child(item, "data"); field; field = field->next) {
+            sum.add(ezxml_attr(field, "fontsize"));
+            sum.add(ezxml_attr(field, "isphone"));
+            for (const char *name : {"type", "label", "value"})
+                sum.add(ezxml_child(field, name)->txt);
+        }
+    }
+    ezxml_free(root);
+    return sum;
+}
+
+Sum readPugi(char *text, std::size_t length)
+{
+    Sum sum;
+    pugi::xml_document document;
+    document.load_buffer_inplace(text, length);
+    const pugi::xml_node root = document.document_element();
+    sum.add(root.child("display").attribute("count").value());
+    for (pugi::xml_node item = root.child("item"); item; item = item.next_sibling("item")) {
+        for (pugi::xml_node field = item.child("data"); field; field = field.next_sibling("data")) {
+            sum.add(field.attribute("fontsize").value());
+            sum.add(field.attribute("isphone").value());
+            for (const char *name : {"type", "label", "value"})
+                sum.add(field.child_value(name));
+        }
+    }
+    return sum;
+}
+
+/// Wants a text that ends in a NUL.
+Sum readRapid(char *text, std::size_t)
+{
+    Sum sum;
+    rapidxml::xml_document<> document;
+    document.parse<0>(text);
+    const rapidxml::xml_node<> *root = document.first_node();
+    sum.add(root->first_node("display")->first_attribute("count")->value());
+    for (auto *item = root->first_node("item"); item; item = item->next_sibling("item")) {
+        for (auto *field = item->first_node("data"); field; field = field->next_sibling("data")) {
+            sum.add(field->first_attribute("fontsize")->value());
+            sum.add(field->first_attribute("isphone")->value());
+            for (const char *name : {"type", "label", "value"})
+                sum.add(field->first_node(name)->value());
+        }
+    }
+    return sum;
+}
+
+struct ExpatReader
+{
+    Sum sum;
+    std::string text;
+};
+
+void XMLCALL startElement(void *user, const XML_Char *name, const XML_Char **attributes)
+{
+    auto *reader = static_cast<ExpatReader *>(user);
+    reader->text.clear();
+    for (; *attributes; attributes += 2) {
+        if (std::strcmp(name, "data") == 0 || std::strcmp(attributes[0], "count") == 0)
+            reader->sum.add(attributes[1]);
+    }
+}
+
+void XMLCALL endElement(void *user, const XML_Char *name)
+{
+    auto *reader = static_cast<ExpatReader *>(user);
+    if (std::strcmp(name, "type") == 0 || std::strcmp(name, "label") == 0 || std::strcmp(name, "value") == 0)
+        reader->sum.add(reader->text.c_str());
+}
+
+void XMLCALL characterData(void *user, const XML_Char *text, int length)
+{
+    static_cast<ExpatReader *>(user)->text.append(text, static_cast<std::size_t>(length));
+}
+
+Sum readExpat(char *text, std::size_t length)
+{
+    ExpatReader reader;
+    XML_Parser parser = XML_ParserCreate(nullptr);
+    XML_SetUserData(parser, &reader);
+    XML_SetElementHandler(parser, startElement, endElement);
+    XML_SetCharacterDataHandler(parser, characterData);
+    XML_Parse(parser, text, static_cast<int>(length), 1);
+    XML_ParserFree(parser);
+    return reader.sum;
+}
+
+/// What this thread took of the processor: other programs at work do not blur it.
+double secondsOnCpu()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+using Reader = Sum (*)(char *, std::size_t);
+
+/// Readers edit the text, so each run gets a fresh copy; the copying is not measured.
+void measure(benchmark::State &state, Reader read)
+{
+    const int items = static_cast<int>(state.range(0));
+    const std::string &original = document(items);
+    std::string copy = original;
+    Sum sum;
+    for (auto _ : state) {
+        copy = original;
+        const double start = secondsOnCpu();
+        sum = read(copy.data(), copy.size());
+        state.SetIterationTime(secondsOnCpu() - start);
+    }
+    if (sum.fields != 1 + 15 * static_cast<std::size_t>(items))
+        state.SkipWithError("fields were lost");
+    state.counters["per_item"]
+        = benchmark::Counter(items, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(original.size()));
+}
+
+void sizes(benchmark::internal::Benchmark *benchmark)
+{
+    benchmark->Arg(20)->Arg(1000)->Arg(20000)->Arg(200000)->UseManualTime();
+}
+
+}
+
+BENCHMARK_CAPTURE(measure, ours, readOurs)->Apply(sizes);
+BENCHMARK_CAPTURE(measure, pugixml, readPugi)->Apply(sizes);
+BENCHMARK_CAPTURE(measure, rapidxml, readRapid)->Apply(sizes);
+BENCHMARK_CAPTURE(measure, expat, readExpat)->Apply(sizes);
+
+BENCHMARK_MAIN();

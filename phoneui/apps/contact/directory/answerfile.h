@@ -1,0 +1,37 @@
+#ifndef ANSWERFILE_H
+#define ANSWERFILE_H
+
+#include <QByteArray>
+#include <QString>
+
+class PhoneHome;
+
+/// The file in which the HTTP client says that an answer lies, taken into hand.
+///
+/// The path comes from outside, and who reads it also deletes it. So it counts only if it names an answer file in
+/// the home's run folder: a plain file of this user with one name. Such a file loses its name at once, and is read
+/// through `path` while this object lives; whatever anybody puts in its place meanwhile is neither read nor
+/// deleted.
+class AnswerFile
+{
+public:
+    AnswerFile(const PhoneHome &home, const QString &path);
+    ~AnswerFile();
+
+    AnswerFile(const AnswerFile &) = delete;
+    AnswerFile &operator=(const AnswerFile &) = delete;
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    /// Why it was not taken; null when it was.
+    const char *fault() const { return m_fault; }
+    /// Where the content can be read; empty when it was not taken.
+    QByteArray path() const;
+
+private:
+    const char *take(const QString &runFolder, const QByteArray &name);
+
+    int m_descriptor = -1;
+    const char *m_fault = nullptr;
+};
+
+#endif

@@ -1,0 +1,99 @@
+#include "contactsearch.h"
+
+#include "textfolding.h"
+
+#include <QStringMatcher>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+/// A copy of its own: texts that stand in memory in the order in which they are read are read faster.
+QString compacted(const QString &text)
+{
+    return text.isNull() ? text : QString(text.constData(), text.size());
+}
+
+/// Finds a word again and again in one text.
+class Finder
+{
+public:
+    explicit Finder(const QString &word) : m_word(word), m_matcher(word) { }
+
+    int indexIn(const QString &text, int from) const
+    {
+        // For a single letter Qt compares many at once.
+        return m_word.size() == 1 ? text.indexOf(m_word.at(0), from) : m_matcher.indexIn(text, from);
+    }
+
+private:
+    const QString m_word;
+    const QStringMatcher m_matcher;
+};
+
+}
+
+void ContactSearch::load(const QList<ContactData> &contacts, int dataVersion)
+{
+    clear();
+    QVector<int> order(contacts.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](int a, int b) { return contacts.at(a).name < contacts.at(b).name; });
+    m_contacts.reserve(order.size());
+    m_lineEnds.reserve(order.size());
+    for (const int i : qAsConst(order)) {
+        ContactData contact = contacts.at(i);
+        contact.name = compacted(contact.name);
+        for (int slot = 0; slot < ContactData::NumberCount; ++slot)
+            contact.setNumber(slot, compacted(contact.number(slot)), contact.numberType(slot));
+        m_contacts.append(contact);
+        appendLine(contact);
+    }
+    m_loaded = true;
+    m_dataVersion = dataVersion;
+}
+
+void ContactSearch::clear()
+{
+    m_contacts.clear();
+    m_lines.clear();
+    m_lineEnds.clear();
+    m_loaded = false;
+}
+
+void ContactSearch::appendLine(const ContactData &contact)
+{
+    m_lines += TextFolding::nameLine(contact.name);
+    for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
+        if (!contact.number(slot).isEmpty())
+            m_lines += TextFolding::Separator + contact.number(slot);
+    }
+    // No word holds the separator, so none is found across two lines.
+    m_lines += TextFolding::Separator;
+    m_lineEnds.append(m_lines.size());
+}
+
+QList<ContactData> ContactSearch::matches(const QString &word) const
+{
+    if (word.isEmpty())
+        return m_contacts;
+    const QString folded = TextFolding::fold(word);
+    QVector<int> found;
+    if (!folded.isEmpty()) {
+        const Finder finder(folded);
+        auto lineEnd = m_lineEnds.begin();
+        for (int at = finder.indexIn(m_lines, 0); at >= 0; at = finder.indexIn(m_lines, *lineEnd++)) {
+            lineEnd = std::find_if(lineEnd, m_lineEnds.end(), [at](int end) { return end > at; });
+            found.append(int(lineEnd - m_lineEnds.begin()));
+        }
+    }
+    if (found.size() == m_contacts.size())
+        return m_contacts;
+    QList<ContactData> contacts;
+    contacts.reserve(found.size());
+    for (const int i : qAsConst(found))
+        contacts.append(m_contacts.at(i));
+    return contacts;
+}

@@ -1,0 +1,36 @@
+#ifndef CONTACTSEARCH_H
+#define CONTACTSEARCH_H
+
+#include "contactdata.h"
+
+#include <QList>
+#include <QString>
+#include <QVector>
+
+/// The contacts of a store in memory, in the order of their names, and a search through them: each is one folded
+/// line, and all lines are scanned for every word.
+class ContactSearch
+{
+public:
+    /// Whether the contacts are missing, or older than the data of that version.
+    bool needsReload(int dataVersion) const { return !m_loaded || dataVersion != m_dataVersion; }
+    /// Takes the contacts; those of one name keep their order.
+    void load(const QList<ContactData> &contacts, int dataVersion);
+    void clear();
+
+    const QList<ContactData> &contacts() const { return m_contacts; }
+    /// The contacts whose line holds the word, in the order of their names: all for an empty word, none for a word
+    /// of accents alone.
+    QList<ContactData> matches(const QString &word) const;
+
+private:
+    void appendLine(const ContactData &contact);
+
+    QList<ContactData> m_contacts;
+    QString m_lines;
+    QVector<int> m_lineEnds; ///< in m_lines, by contact
+    int m_dataVersion = 0;
+    bool m_loaded = false;
+};
+
+#endif

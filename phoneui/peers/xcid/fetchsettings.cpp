@@ -1,0 +1,41 @@
+#include "fetchsettings.h"
+
+#include "phonehome.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QSslCertificate>
+
+namespace {
+
+constexpr int DefaultTimeLimit = 15000;
+constexpr int DefaultSizeLimit = 1024 * 1024; // twenty entries take some ten thousand
+
+int limit(const QSettings &settings, const char *key, int usual)
+{
+    const int value = settings.value(QLatin1String(key), usual).toInt();
+    return value > 0 ? value : usual;
+}
+
+}
+
+FetchSettings FetchSettings::read(const PhoneHome &home)
+{
+    const QSettings settings(home.path(QStringLiteral("config/xcid.conf")), QSettings::IniFormat);
+    const QString authority = settings.value(QStringLiteral("Tls/Authority")).toString();
+    return {limit(settings, "Limits/Time", DefaultTimeLimit), limit(settings, "Limits/Size", DefaultSizeLimit),
+            authority.isEmpty() ? QString() : QDir(home.root()).absoluteFilePath(authority)};
+}
+
+QSslConfiguration FetchSettings::tls() const
+{
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setProtocol(QSsl::TlsV1_2OrLater);
+    if (authorityFile.isEmpty())
+        return configuration;
+    const QList<QSslCertificate> own = QSslCertificate::fromPath(authorityFile);
+    if (own.isEmpty())
+        qWarning("There is no certificate in %s", qPrintable(authorityFile));
+    configuration.setCaCertificates(QSslConfiguration::systemCaCertificates() + own);
+    return configuration;
+}

@@ -1,0 +1,92 @@
+#ifndef PEERTEST_H
+#define PEERTEST_H
+
+#include "control/apppayload.h"
+#include "peerserver.h"
+#include "testcase.h"
+#include "testphone.h"
+
+#include <QProcess>
+#include <QSettings>
+
+#include <memory>
+
+/// The application that a peer speaks to: keeps what each message says, its items with a space between them.
+class PeerListener final : public BaseAppInterface
+{
+public:
+    explicit PeerListener(const QString &name) : BaseAppInterface(name, nullptr) { }
+    ~PeerListener() = default;
+
+    bool start(QWidget *, void *) override { return true; }
+    void end() override { }
+    void receiveMsg(const QString &command, const QByteArray &payload) override
+    {
+        QStringList words;
+        for (const QVariant &item : AppPayload::decode(command, payload))
+            words.append(item.toString());
+        heard.append(words.join(' ').trimmed());
+    }
+
+    QStringList heard;
+};
+
+/// A phone, its end of the peers' socket, and a peer as a process.
+class PeerTest : public TestCase
+{
+    Q_OBJECT
+
+protected:
+    /// Starts a program that prints its port; 0 when none comes.
+    static quint16 start(QProcess *process, const QString &program, const QStringList &arguments)
+    {
+        process->start(PHONE_PROGRAMS "/" + program, arguments);
+        while (!process->canReadLine()) {
+            if (!process->waitForReadyRead())
+                return 0;
+        }
+        return process->readLine().trimmed().toUShort();
+    }
+    /// Starts the peer and writes its port where those who send to it look.
+    bool startPeer(const QString &program)
+    {
+        m_peer.reset(new QProcess);
+        m_port = start(m_peer.get(), program, {"--home", m_phone->home.root(), "--port", "0"});
+        QSettings(m_phone->home.path("config/ipc.conf"), QSettings::IniFormat)
+            .setValue(program.toUpper() + "/Port", m_port);
+        return m_port != 0;
+    }
+    void makePhone(const QString &listener)
+    {
+        m_phone.reset(new TestPhone);
+        m_server.reset(new PeerServer);
+        QVERIFY(m_server->listen(m_phone->home.peerSocket()));
+        m_app.reset(new PeerListener(listener));
+        m_log.clear();
+    }
+    void tearDown() override
+    {
+        m_peer->kill();
+        m_peer->waitForFinished();
+        m_app.reset();
+        m_server.reset();
+        m_phone.reset();
+    }
+    /// Whether the peer writes this into its log.
+    bool logs(const QByteArray &text)
+    {
+        return QTest::qWaitFor([&] {
+            m_log += m_peer->readAllStandardError();
+            return m_log.contains(text);
+        });
+    }
+
+    std::unique_ptr<TestPhone> m_phone;
+    std::unique_ptr<PeerServer> m_server;
+    std::unique_ptr<PeerListener> m_app;
+    std::unique_ptr<QProcess> m_peer;
+    QByteArray m_log;
+    quint16 m_port = 0;
+};
+
+#endif

@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# The directory on a running phone, with its server and its HTTP client: over HTTP, over HTTPS, and with faults.
+. "$(dirname "$0")/support.sh"
+
+server=
+stop_server() {
+    [ -z "$server" ] || kill "$server"
+    server=
+}
+trap 'stop_server; finish' EXIT
+
+# serve TYPE OPTION...: starts the server and provisions the phone for it.
+serve() {
+    : >"$work/port"
+    dservice --data "$work/people.csv" --port 0 --user me:secret "${@:2}" >"$work/port" &
+    server=$!
+    until [ -s "$work/port" ]; do sleep 0.05; done
+    local port=$(<"$work/port") address=127.0.0.1
+    [ "$1" = https ] || address+=:$port # only HTTPS has a port of its own
+    printf '[Prov_Info]\nId=me\nLoginMode=1\n[Directory_svc]\nType=%s\nAddr=%s\nPort=%s\n' "$1" "$address" "$port" \
+        >"$PHONE_HOME/config/phone_info.conf"
+}
+
+mkdir -p "$PHONE_HOME/config"
+printf '[Prov]\nPassword=secret\n' >"$PHONE_HOME/config/secret.ini"
+echo name,number,type,position,department,mobile >"$work/people.csv"
+for i in $(seq -w 45); do echo "Person $i,50$i,Office,Clerk,Sales,070$i" >>"$work/people.csv"; done
+
+serve http
+start_phone --empty --platform offscreen
+phonectl run "$here/directory.keys"
+phonectl key Soft3 Esc
+stop_phone
+phonebook list | grep -q 'Anna.*5044.*5044' || fail "the saved numbers"
+stop_server
+
+openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=127.0.0.1 -addext subjectAltName=IP:127.0.0.1 \
+    -keyout "$work/key.pem" -out "$PHONE_HOME/config/authority.pem" 2>/dev/null
+printf '[Tls]\nAuthority=config/authority.pem\n' >"$PHONE_HOME/config/xcid.conf"
+serve https --tls "$PHONE_HOME/config/authority.pem" "$work/key.pem"
+start_phone --platform offscreen
+phonectl key Soft4 Soft1
+phonectl expect screen SearchDir
+phonectl text person
+sleep 0.1
+for page in 1 2; do
+    phonectl key Soft4
+    phonectl expect title "Directory Service | $page/3page"
+done
+phonectl key Esc
+
+# Whatever goes wrong, the form stays as it is, and the log says why.
+nothing_comes() {
+    phonectl expect screen SearchDir
+    phonectl key Soft4
+    for _ in $(seq 100); do
+        [ "$(grep -c 'The fetch of' "$work/log")" -lt "$1" ] || break
+        sleep 0.1
+    done
+    [ "$(grep -c 'The fetch of' "$work/log")" -eq "$1" ] || fail "the reason in the log"
+    ! grep -q secret "$work/log" || fail "the password in the log"
+    phonectl expect screen SearchDir
+}
+printf '[Prov]\nPassword=wrong\n' >"$PHONE_HOME/config/secret.ini"
+nothing_comes 1
+stop_server
+nothing_comes 2
+
+# Only a file of the phone's own is an answer. It is read and gone, and opens nothing once the form is left.
+respond() { phonectl send contact 'http2ui_directory_service_response(str,int)' "$1" 0; }
+foreign=$work/foreign.xml own=$PHONE_HOME/run/directory-AbCdEf.xml
+echo '<d><display count="1"/><item><data><type>name</type></data></item></d>' | tee "$foreign" >"$own"
+respond "$foreign"
+phonectl expect screen SearchDir
+[ -s "$foreign" ] || fail "a file of somebody else's"
+phonectl key Esc
+phonectl expect title Home
+respond "$own"
+phonectl expect title Home
+[ ! -e "$own" ] || fail "the answer to a form that was left"
