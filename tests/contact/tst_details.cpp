@@ -14,10 +14,6 @@
 
 using namespace PhoneKeys;
 
-/// Keys, each with the screen that is active after it.
-using Road = QList<QPair<int, QString>>;
-Q_DECLARE_METATYPE(Road)
-
 class DetailsTest : public PhoneTest
 {
     Q_OBJECT
@@ -31,8 +27,6 @@ private slots:
     void deletes();
     void groupMarksExcludeEachOther();
     void refusesGroupNames();
-    void commandsInTheMiddle_data();
-    void commandsInTheMiddle();
 
 private:
     ContactManager *store() const { return m_phone->core.contactManager(); }
@@ -264,66 +258,6 @@ void DetailsTest::refusesGroupNames()
     QCOMPARE(create("The tenth"), QString());
     QCOMPARE(store()->getCountOfGroup(), 11);
     QCOMPARE(PhoneScript().keys({Qt::Key_Context1}).dismissToast().run(), QString());
-}
-
-void DetailsTest::commandsInTheMiddle_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<Road>("road");
-    QTest::addColumn<QString>("left");
-    const Road details{{Qt::Key_Return, "DetailsDial"}};
-    const Road form = details + Road{{Qt::Key_Context4, "NumberEdit"}};
-    const Road groups = form + Road{{Qt::Key_Down, "NumberEdit"}, {Qt::Key_Return, "GroupList_At_Contact"}};
-    const QList<QPair<const char *, Road>> roads = {
-        {"details", details}, {"box", details + Road{{Qt::Key_Context3, "MessageBox"}}},
-        {"form", form},       {"popup", form + Road{{Qt::Key_Context1, "SelectPopup"}}},
-        {"groups", groups},   {"input", groups + Road{{Qt::Key_Context1, "InputPopup"}}},
-    };
-    const QString same = "what was there";
-    const QList<QPair<QString, QString>> commands = {
-        {"CloseContact()", ""},
-        {"wpsm2ui_noti_device_disconnected(int)", "Contact"},
-        {"newContact(str)", "NumberEdit"},
-        {"viewContact(str)", "DetailsDial"},
-        {"api2ui_noti_contact_changed()", same},
-        {"BuddyStatusChanged()", same},
-        {"changedLanguage()", same},
-        {"noti_phoneInit()", same},
-    };
-    for (const auto &road : roads) {
-        for (const auto &command : commands)
-            QTest::addRow("%s in %s", qPrintable(command.first), road.first)
-                << command.first << road.second
-                << (command.second == same ? road.second.last().second : command.second);
-    }
-}
-
-void DetailsTest::commandsInTheMiddle()
-{
-    QFETCH(QString, command);
-    QFETCH(Road, road);
-    QFETCH(QString, left);
-    fullContact();
-    ContactScreen contacts;
-    QVERIFY(contacts.open());
-    PhoneScript script;
-    for (const auto &step : qAsConst(road)) {
-        // What a screen puts off by a millisecond is done a few steps after it.
-        script.keys({step.first}).untilActive(step.second.toLatin1());
-        script.until("a moment to pass", [turns = 0]() mutable { return ++turns > 5; });
-    }
-    script.call([&] { m_phone->core.postAppMsg("contact", command, QByteArray("")); });
-    const auto allClosed = [] { return !QApplication::activeWindow(); };
-    if (left.isEmpty())
-        script.until("everything to close", allClosed);
-    else
-        script.untilActive(left.toLatin1());
-    // From wherever it is, one command leads out again, and nothing is left on the stack.
-    script.call([this] { m_phone->core.postAppMsg("contact", "CloseContact()", QByteArray("")); })
-        .until("everything to close", allClosed);
-    QCOMPARE(script.run(), QString());
-    QVERIFY(!contacts.app.isVisible());
-    QCOMPARE(store()->getCountOfContact(), 1);
 }
 
 PHONE_TEST_MAIN(DetailsTest)

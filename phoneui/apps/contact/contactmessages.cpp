@@ -147,7 +147,7 @@ void Contact::handleDirectoryResponse(QDataStream &payload)
     payload >> path >> number;
     qDebug() << "Contact::handleDirectoryResponse" << path << number;
     const AnswerFile answer(theCore->home(), path);
-    if (!answer.isOpen())
+    if (answer.isForeign())
         return;
     int totalCount = 0;
     const QList<QList<DirectoryData>> results = loadData(answer.path().constData(), &totalCount);

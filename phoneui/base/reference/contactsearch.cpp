@@ -2,8 +2,6 @@
 
 #include "textfolding.h"
 
-#include <QStringMatcher>
-
 #include <algorithm>
 #include <numeric>
 
@@ -15,21 +13,55 @@ QString compacted(const QString &text)
     return text.isNull() ? text : QString(text.constData(), text.size());
 }
 
-/// Finds a word again and again in one text.
+/// Finds a word in a long text. Looks for its two ends in many places at once, in loops that the compiler turns
+/// into vector instructions: short words, which come with every search, leave the usual algorithms nothing to skip.
 class Finder
 {
 public:
-    explicit Finder(const QString &word) : m_word(word), m_matcher(word) { }
+    explicit Finder(const QString &word) : m_word(word), m_span(word.size() - 1) { }
 
+    /// The first place of the word from `from` on, or -1.
     int indexIn(const QString &text, int from) const
     {
-        // For a single letter Qt compares many at once.
-        return m_word.size() == 1 ? text.indexOf(m_word.at(0), from) : m_matcher.indexIn(text, from);
+        if (m_span == 0)
+            return text.indexOf(m_word.at(0), from); // does the same for a single letter
+        const ushort *letters = text.utf16();
+        const int end = text.size() - m_span;
+        int at = from;
+        for (; at + Block <= end; at += Block) {
+            if (!mayBeginIn(letters + at))
+                continue;
+            const int found = firstIn(letters, at, at + Block);
+            if (found >= 0)
+                return found;
+        }
+        return firstIn(letters, at, end);
     }
 
 private:
+    static constexpr int Block = 64;
+
+    bool mayBeginIn(const ushort *block) const
+    {
+        const ushort first = m_word.at(0).unicode(), last = m_word.at(m_span).unicode();
+        ushort any = 0;
+        for (int i = 0; i < Block; ++i)
+            any |= static_cast<ushort>(block[i] == first) & static_cast<ushort>(block[i + m_span] == last);
+        return any;
+    }
+
+    int firstIn(const ushort *letters, int from, int end) const
+    {
+        const ushort *word = m_word.utf16();
+        for (int at = from; at < end; ++at) {
+            if (letters[at] == *word && std::equal(word, word + m_word.size(), letters + at))
+                return at;
+        }
+        return -1;
+    }
+
     const QString m_word;
-    const QStringMatcher m_matcher;
+    const int m_span; ///< from the first letter to the last
 };
 
 }

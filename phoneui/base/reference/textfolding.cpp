@@ -65,11 +65,13 @@ template <std::size_t N> const char16_t *replacementOf(const std::array<Replacem
 }
 
 /// A folded text on the stack: names are short, and a search folds thousands of them between two keys.
-using Buffer = QVarLengthArray<QChar, 128>;
+using Buffer = QVarLengthArray<ushort, 128>;
 
 void append(Buffer &out, const QString &text)
 {
-    out.append(text.constData(), text.size());
+    // Most often it is one letter.
+    for (const QChar c : text)
+        out.append(c.unicode());
 }
 
 QString foldedLetter(QChar c)
@@ -119,16 +121,21 @@ private:
     std::array<std::unique_ptr<Page>, 256> m_pages;
 };
 
-QChar foldedAscii(ushort code)
+FoldedCharacters &foldedCharacters()
+{
+    static thread_local FoldedCharacters characters;
+    return characters;
+}
+
+ushort foldedAscii(ushort code)
 {
     if (code >= 'A' && code <= 'Z')
-        return QChar(code + 'a' - 'A');
-    return code < ' ' || code == 0x7f ? QChar(' ') : QChar(code);
+        return code | 0x20;
+    return code < ' ' || code == 0x7f ? ' ' : code;
 }
 
 void appendFolded(Buffer &out, const QString &text)
 {
-    static thread_local FoldedCharacters characters;
     for (int i = 0; i < text.size(); ++i) {
         const ushort code = text.at(i).unicode();
         if (code < 0x80)
@@ -136,7 +143,7 @@ void appendFolded(Buffer &out, const QString &text)
         else if (QChar::isHighSurrogate(code) && i + 1 < text.size())
             append(out, foldedCharacter(text.mid(i++, 2)));
         else
-            append(out, characters.at(code));
+            append(out, foldedCharacters().at(code));
     }
 }
 
@@ -149,10 +156,11 @@ bool isInitial(QChar c)
 void appendInitials(Buffer &out, const Buffer &folded, bool ofSyllables)
 {
     bool inWord = false;
-    for (const QChar c : folded) {
+    for (const ushort code : folded) {
+        const QChar c(code);
         const bool letter = c.isLetterOrNumber() || c.isSurrogate() || (inWord && (c == u'\'' || c == u'\u2019'));
         if ((letter && !inWord) || (ofSyllables && isInitial(c)))
-            out.append(c);
+            out.append(code);
         inWord = letter;
     }
 }
@@ -164,7 +172,7 @@ bool holds(const Buffer &text, const Buffer &word)
 
 QString toString(const Buffer &buffer)
 {
-    return QString(buffer.constData(), buffer.size());
+    return QString(reinterpret_cast<const QChar *>(buffer.constData()), buffer.size());
 }
 
 }

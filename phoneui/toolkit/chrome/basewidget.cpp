@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QSettings>
 #include <QThread>
 #include <QTimer>
 

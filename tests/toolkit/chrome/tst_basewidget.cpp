@@ -1,7 +1,9 @@
 #include "screentest.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSettings>
+#include <QTimer>
 
 using namespace PhoneKeys;
 
@@ -10,64 +12,7 @@ class BaseWidgetTest : public ScreenTest
     Q_OBJECT
 
 private slots:
-<<<<<<< HEAD
-    void fillsTheDisplayBelowTheStatusBar();
-    void escapeClosesOnceAtTheRelease();
-    void otherKeysKeepTheirAcceptState();
-    void theTitleComesBack();
-    void execReturnsWhenClosedFromOutside();
-    void aRetiredScreenOutlivesLoopsOfItsHandlers();
-    void locksShowAsTheSettingsSay_data();
-    void locksShowAsTheSettingsSay();
-
-private:
-    std::unique_ptr<TestPhone> m_phone;
-};
-
-void BaseWidgetTest::fillsTheDisplayBelowTheStatusBar()
-{
-    Screen screen("One");
-    QVERIFY(showAndActivate(&screen));
-    QCOMPARE(screen.geometry(), QRect(0, 26, 384, 134));
-    screen.setBgColor(Qt::yellow);
-    const QImage picture = TestScreen::picture();
-    QCOMPARE(picture.pixelColor(0, 26), QColor(Qt::yellow));
-    QCOMPARE(picture.pixelColor(383, 159), QColor(Qt::yellow));
-    QVERIFY(picture.pixelColor(383, 25) != QColor(Qt::yellow));
-}
-
-void BaseWidgetTest::escapeClosesOnceAtTheRelease()
-{
-    Screen screen("One");
-    QVERIFY(showAndActivate(&screen));
-    press(Qt::Key_Escape);
-    QVERIFY(screen.isVisible());
-    release(Qt::Key_Escape);
-    QVERIFY(!screen.isVisible());
-    QCOMPARE(screen.closes, 1);
-}
-
-void BaseWidgetTest::otherKeysKeepTheirAcceptState()
-{
-    Screen screen("One");
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        for (const bool accepted : {false, true}) {
-            QKeyEvent event(type, Qt::Key_5, Qt::NoModifier);
-            event.setAccepted(accepted);
-            QCoreApplication::sendEvent(&screen, &event);
-            QCOMPARE(event.isAccepted(), accepted);
-        }
-    }
-}
-
-void BaseWidgetTest::theTitleComesBack()
-{
-    Screen below("Below");
-    QVERIFY(showAndActivate(&below));
-    QCOMPARE(m_phone->status.title(), QString("Below"));
-=======
     void fillsTheDisplayBelowTheStatusBar()
->>>>>>> trimkit
     {
         const QColor yellow(Qt::yellow);
         m_screen->setBgColor(yellow);
@@ -90,46 +35,19 @@ void BaseWidgetTest::theTitleComesBack()
         QVERIFY(m_screen->isVisible() && m_screen->list->hasFocus());
     }
 
-<<<<<<< HEAD
-void BaseWidgetTest::execReturnsWhenClosedFromOutside()
-{
-    Screen screen("One");
-    QTimer::singleShot(0, &screen, [&screen] { screen.close(); });
-    QCOMPARE(screen.exec(), int(QDialog::Rejected));
-}
+    void aRetiredScreenOutlivesLoopsOfItsHandlers()
+    {
+        const QPointer<KeyScreen> screen = new KeyScreen("Retired");
+        QVERIFY(showAndActivate(screen));
+        QEventLoop handler;
+        QTimer::singleShot(0, screen, [screen] { screen->retire(); });
+        QTimer::singleShot(100, &handler, &QEventLoop::quit);
+        handler.exec();
+        QVERIFY(screen && !screen->isVisible());
+        QTRY_VERIFY(!screen);
+    }
 
-void BaseWidgetTest::aRetiredScreenOutlivesLoopsOfItsHandlers()
-{
-    const QPointer<Screen> screen = new Screen("One");
-    QVERIFY(showAndActivate(screen));
-    QEventLoop handler;
-    QTimer::singleShot(0, screen, [screen] { screen->retire(); });
-    QTimer::singleShot(100, &handler, &QEventLoop::quit);
-    handler.exec();
-    QVERIFY(screen && !screen->isVisible());
-    QTRY_VERIFY(!screen);
-}
-
-void BaseWidgetTest::locksShowAsTheSettingsSay_data()
-{
-    QTest::addColumn<int>("systemType");
-    QTest::addColumn<bool>("menuPassword");
-    QTest::addColumn<int>("callLock");
-    QTest::addColumn<int>("changes");
-    QTest::newRow("nothing locked") << 1 << false << 0 << 0;
-    QTest::newRow("menu") << 1 << true << 0 << 1;
-    QTest::newRow("menu and calls") << 1 << true << 2 << 2;
-    QTest::newRow("a system without call lock") << 2 << false << 1 << 0;
-}
-
-void BaseWidgetTest::locksShowAsTheSettingsSay()
-{
-    QFETCH(int, systemType);
-    QFETCH(bool, menuPassword);
-    QFETCH(int, callLock);
-=======
     void otherKeysKeepTheirAcceptState()
->>>>>>> trimkit
     {
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             for (const bool accepted : {false, true}) {

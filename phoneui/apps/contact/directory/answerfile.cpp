@@ -13,12 +13,11 @@ AnswerFile::AnswerFile(const PhoneHome &home, const QString &path)
 {
     const QString folder = home.runFolder();
     const QString name = path.mid(folder.size() + 1);
-    if (path != folder + QLatin1Char('/') + name || !PhoneHome::isAnswerName(name))
-        m_fault = "it does not lie where answers do";
-    else
-        m_fault = take(folder, QFile::encodeName(name));
-    if (m_fault)
-        qDebug() << "AnswerFile: not taken:" << m_fault;
+    m_isForeign = path != folder + QLatin1Char('/') + name || !PhoneHome::isAnswerName(name);
+    const char *fault
+        = m_isForeign ? "it does not lie where answers do" : take(folder, QFile::encodeName(name));
+    if (fault)
+        qDebug() << "AnswerFile: not taken:" << fault;
 }
 
 AnswerFile::~AnswerFile()

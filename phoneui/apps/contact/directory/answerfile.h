@@ -22,8 +22,9 @@ public:
     AnswerFile &operator=(const AnswerFile &) = delete;
 
     bool isOpen() const { return m_descriptor >= 0; }
-    /// Why it was not taken; null when it was.
-    const char *fault() const { return m_fault; }
+    /// True when the path names no answer file at all: then nobody has answered. A file that should be there and
+    /// cannot be had is an answer without results.
+    bool isForeign() const { return m_isForeign; }
     /// Where the content can be read; empty when it was not taken.
     QByteArray path() const;
 
@@ -31,7 +32,7 @@ private:
     const char *take(const QString &runFolder, const QByteArray &name);
 
     int m_descriptor = -1;
-    const char *m_fault = nullptr;
+    bool m_isForeign = false;
 };
 
 #endif
