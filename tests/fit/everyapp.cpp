@@ -47,6 +47,35 @@ void EveryApp::addGroups(int count)
         phone.core.contactManager()->saveGroup(GroupData(-1, QString("G%1").arg(i), ""), false);
 }
 
+void EveryApp::addPhonebook()
+{
+    QByteArray text = "[Info]\nCount=5\n";
+    for (const char *number : {"1", "2", "3", "4", "5"})
+        text += QByteArray("[Contact_00") + number + "]\nName=Lee\nNum=20" + number
+            + "\nCategory=" + (*number < '3' ? "Lab" : "") + '\n';
+    phone.writeFile("config/phonebook.conf", text);
+}
+
+void EveryApp::addDirectory()
+{
+    phone.writeFile("config/phone_info.conf", "[Prov_Info]\nLoginMode=1\nId=kim\n[Directory_svc]\nAddr=server\n");
+}
+
+void EveryApp::answer(bool found)
+{
+    const auto field = [](const QByteArray &type, const QByteArray &value) {
+        return "<data isphone=\"" + QByteArray(type == "mobile" ? "true" : "false") + "\"><type>" + type
+            + "</type><label>" + type + "</label><value>" + value + "</value></data>";
+    };
+    const QByteArray person = "<item>" + field("name", "Lee") + field("number", "300") + field("type", "A")
+        + field("position", "B") + field("department", "C") + field("mobile", "301") + "</item>";
+    phone.writeFile("run/directory-AbCdEf.xml",
+                    "<directory><display charset=\"UTF-8\" pageinfo=\"1/2\" path=\"/x\" timestamp=\"1\" count=\""
+                        + QByteArray(found ? "30" : "0") + "\"/>" + (found ? person : "") + "</directory>");
+    send("contact", "http2ui_directory_service_response(str,int)",
+         {phone.home.path("run/directory-AbCdEf.xml"), 200});
+}
+
 void EveryApp::send(const QString &app, const QString &command, const QVariantList &items)
 {
     QByteArray payload;

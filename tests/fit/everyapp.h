@@ -27,6 +27,11 @@ public:
     /// People with all fields, a group, a call, a message, a program key. All names are short.
     void addPeople();
     void addGroups(int count);
+    /// A phonebook of the system's own, with two categories.
+    void addPhonebook();
+    void addDirectory();
+    /// What a directory server of two pages says, or of none.
+    void answer(bool found);
     void send(const QString &app, const QString &command, const QVariantList &items);
     /// Closes everything above the home screen.
     void goHome();

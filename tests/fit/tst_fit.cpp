@@ -116,7 +116,11 @@ std::function<void()> FitTest::action(const QString &word)
     if (word == "people")
         return [this] { m_apps->addPeople(); };
     if (word == "book")
-        return [this] { m_apps->phone.provisionPhonebook(1); };
+        return [this] { m_apps->addPhonebook(); };
+    if (word == "directory")
+        return [this] { m_apps->addDirectory(); };
+    if (word == "found" || word == "nothing")
+        return [this, word] { m_apps->answer(word == "found"); };
     if (word.startsWith('='))
         return [word] { PhoneKey::postText(word.mid(1)); };
     const QStringList parts = word.split(':');
