@@ -52,7 +52,7 @@ void EveryApp::addPhonebook()
     QByteArray text = "[Info]\nCount=5\n";
     for (const char *number : {"1", "2", "3", "4", "5"})
         text += QByteArray("[Contact_00") + number + "]\nName=Lee\nNum=20" + number
-            + "\nCategory=" + (*number < '3' ? "Lab" : "") + '\n';
+            + "\nCategory=" + (*number < '3' ? "Lab" : "") + "\nIndex=" + number + '\n';
     phone.writeFile("config/phonebook.conf", text);
 }
 
