@@ -23,7 +23,7 @@ KINDS = ["Company", "Mobile", "Home", "Fax", "Etc", "Number"]
 
 def lupdate(sources, catalogue):
     subprocess.run([os.environ.get("LUPDATE", "lupdate"), "-silent", "-locations", "none", "-no-obsolete", sources, "-ts",
-                    catalogue], check=True)
+                    catalogue], check=True, stderr=subprocess.DEVNULL)
 
 
 def faults_of(catalogue, fresh):

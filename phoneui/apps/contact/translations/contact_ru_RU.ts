@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>Personal Phonebook</source>
-        <translation>Личная телефонная книга</translation>
+        <translation>Личная книга</translation>
     </message>
     <message>
         <source>System Phonebook</source>
-        <translation>Системная телефонная книга</translation>
+        <translation>Системная книга</translation>
     </message>
     <message>
         <source>No Contacts</source>
@@ -670,7 +670,7 @@ Delete other Number First</source>
     <name>SystemPhonebookCategoryWidget</name>
     <message>
         <source>System Phonebook</source>
-        <translation>Системная телефонная книга</translation>
+        <translation>Системная книга</translation>
     </message>
     <message>
         <source>Groups</source>
@@ -693,7 +693,7 @@ Delete other Number First</source>
     </message>
     <message>
         <source>System Phonebook</source>
-        <translation>Системная телефонная книга</translation>
+        <translation>Системная книга</translation>
     </message>
     <message>
         <source>Groups</source>
