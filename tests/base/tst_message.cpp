@@ -78,7 +78,6 @@ void TestMessage::broken()
     const QByteArray whole = bytes(Dial);
     QList<QByteArray> faults = {
         whole + 'x',
-        bytes({"A", "f(str)", {QByteArray("ab")}}).chopped(1),
         QByteArray(40, '\xff'),
         QByteArray(40, '\0'),
         QByteArray("CM/UI\0f(bool)\0\0\0\0\1", 18),

@@ -259,9 +259,10 @@ static Operation operationAt(int step)
     return step % 12 == 11 ? DeleteAll : step % 3 == 2 ? DeleteOldest : Save;
 }
 
+/// In the order of age and of names alike.
 static QString nameAt(int step)
 {
-    return QString("Person %1").arg(step);
+    return QStringLiteral("Person %1").arg(step, 6, 10, QChar('0'));
 }
 
 /// Runs the operations one after the other and tells each that the store has acknowledged.

@@ -31,6 +31,15 @@ public:
         setStartFuncKey(Qt::Key_F2);
         setEndFuncKey(Qt::Key_F5);
     }
+
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++paints;
+        ListView::paintEvent(event);
+    }
 };
 
 /// Rows, selection, paging and keys.
@@ -160,6 +169,17 @@ private slots:
         for (int idx : {0, 1, 3, 2, 2, -1, -7})
             window.list->setSelectedIdx(idx);
         QCOMPARE(values(changes), (List{2, -1, -7}));
+    }
+
+    void repaintsForAnotherSelection()
+    {
+        ListWindow<FuncKeyList> window;
+        window.add(2);
+        QVERIFY(window.showNow());
+        QTest::qWait(20);
+        const int paints = window.list->paints;
+        window.list->setSelectedIdx(1);
+        QTRY_COMPARE(window.list->paints, paints + 1);
     }
 
     void pages()

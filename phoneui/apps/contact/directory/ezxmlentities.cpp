@@ -185,7 +185,8 @@ char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
 std::string EzxmlEntities::decoded(std::string text, Kind kind)
 {
     std::size_t length = text.size();
-    return std::string(decode(text.data(), &length, kind), length);
+    const char *result = decode(text.data(), &length, kind);
+    return std::string(result, length);
 }
 
 void EzxmlEntities::expand(Source source, Kind kind)

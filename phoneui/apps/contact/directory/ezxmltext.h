@@ -32,11 +32,11 @@ struct Classes
             else if ((c >= '0' && c <= '9') || c == '-' || c == '.')
                 of[c] = NameChar;
         }
-        of[' '] = Space;
-        of['\t'] = of['\n'] = Space | LineFeedOrTab;
-        of['\r'] = Space | CarriageReturn;
-        of['&'] = Ampersand;
-        of['%'] = Percent;
+        of[unsigned{' '}] = Space;
+        of[unsigned{'\t'}] = of[unsigned{'\n'}] = Space | LineFeedOrTab;
+        of[unsigned{'\r'}] = Space | CarriageReturn;
+        of[unsigned{'&'}] = Ampersand;
+        of[unsigned{'%'}] = Percent;
     }
 
     unsigned char of[256];

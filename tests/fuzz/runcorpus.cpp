@@ -1,0 +1,20 @@
+// Runs a fuzz target over the files that are named, where libFuzzer is not there to do it.
+
+#include <QFile>
+
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+int main(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        QFile file(QFile::decodeName(argv[i]));
+        if (!file.open(QIODevice::ReadOnly))
+            return 1;
+        const QByteArray content = file.readAll();
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(content.constData()),
+                               std::size_t(content.size()));
+    }
+    return argc > 1 ? 0 : 1;
+}
