@@ -47,3 +47,10 @@ function(phone_resources target name)
     set_source_files_properties(${out}/qrc_${name}.cpp PROPERTIES SKIP_AUTOMOC ON)
     target_sources(${target} PRIVATE ${out}/qrc_${name}.cpp)
 endfunction()
+
+# Brings the catalogues in line with the sources.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+get_target_property(LUPDATE Qt5::lupdate IMPORTED_LOCATION)
+set(catalogues_script ${CMAKE_COMMAND} -E env LUPDATE=${LUPDATE} ${Python3_EXECUTABLE}
+    ${CMAKE_SOURCE_DIR}/scripts/catalogues.py)
+add_custom_target(catalogues COMMAND ${catalogues_script} update COMMENT "Catalogues" VERBATIM)

@@ -6,9 +6,10 @@
 #include <QStyleFactory>
 
 // Outside the namespace, as the macro asks for it.
-static void initPictures()
+static void initResources()
 {
     Q_INIT_RESOURCE(ui);
+    Q_INIT_RESOURCE(shell);
 }
 
 namespace DisplaySetup {
@@ -26,7 +27,7 @@ void prepareEnvironment(const QString &platform)
 
 void prepareApplication()
 {
-    initPictures();
+    initResources();
     // Roboto Condensed is narrow enough for a 92 pixel soft key at 18 points; a Nanum face has the Hangul.
     const QString phoneFamily = QStringLiteral("1V_02_GO_UI");
     QFont::insertSubstitutions(phoneFamily, {"Roboto Condensed", "NanumBarunGothic", "NanumGothic"});

@@ -13,7 +13,7 @@ constexpr QSize Size(384, 160);
 /// another.
 void prepareEnvironment(const QString &platform = QString());
 
-/// After QApplication: brings in the shared pictures, maps the phone's font family to the installed ones and takes
+/// After QApplication: brings in the shared pictures and the texts, maps the phone's font family to the installed ones and takes
 /// the desktop's habits away (quitting with the last window, a blinking cursor, animated effects).
 void prepareApplication();
 

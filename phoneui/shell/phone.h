@@ -5,6 +5,7 @@
 #include "display.h"
 #include "keymap.h"
 #include "peerserver.h"
+#include "phonetexts.h"
 #include "pluginhost.h"
 #include "status.h"
 #include "windowstack.h"
@@ -55,6 +56,7 @@ private:
     void forgetCall();
 
     Core m_core;
+    PhoneTexts m_texts;
     WindowStack m_windows;
     Display m_display;
     Status m_status;

@@ -1,13 +1,13 @@
 #ifndef BASEAPPINTERFACE_H
 #define BASEAPPINTERFACE_H
 
+#include "catalogue.h"
+
 #include <QByteArray>
-#include <QScopedPointer>
 #include <QString>
 #include <QtPlugin>
 
 class QObject;
-class QTranslator;
 class QWidget;
 
 /// What the shell sees of an application: it is found by its name, shown, ended, and sent messages.
@@ -41,7 +41,7 @@ private:
     Q_DISABLE_COPY(BaseAppInterface)
 
     QString m_name;
-    QScopedPointer<QTranslator> m_translator;
+    Catalogue m_catalogue;
 };
 
 #define BaseAppInterface_iid "com.norvane.Plugin.BaseAppInterface/1.0"

@@ -92,8 +92,8 @@ public:
     int getLanguage() const { return language(); }
     /// The language as catalogues name it, "de_DE".
     QString languageName() const;
-    /// False for a name that is no language of the phone, or when it cannot be kept. Running applications hear of
-    /// it by "changedLanguage()".
+    /// False for a name that is no language of the phone, or when it cannot be kept. Whoever keeps texts for others
+    /// hears of it at once, by the signal; running applications after it, by "changedLanguage()".
     bool setLanguageName(const QString &name);
     QString configFileName(ConfigFileType type) const;
     /// A file of the call services by its name, such as "phone_info.conf".
@@ -132,6 +132,7 @@ public:
 signals:
     /// A word to everything on the screen, such as "closeSelectPopup()".
     void signalBroadcast(const QString &name, const QByteArray &data);
+    void languageChanged();
     /// Every application message as it is sent.
     void appMsgSent(const QString &target, const QString &command, const QByteArray &payload);
 

@@ -2,10 +2,7 @@
 
 #include "core.h"
 
-#include <QCoreApplication>
-#include <QTranslator>
-
-BaseAppInterface::BaseAppInterface(const QString &name, QObject *parent) : m_name(name)
+BaseAppInterface::BaseAppInterface(const QString &name, QObject *parent) : m_name(name), m_catalogue(name)
 {
     Q_UNUSED(parent)
     if (theCore)
@@ -20,13 +17,5 @@ BaseAppInterface::~BaseAppInterface()
 
 void BaseAppInterface::reloadLanguage()
 {
-    const QString base = QStringLiteral(":/%1/%1").arg(m_name);
-    const QString language = theCore ? theCore->languageName() : QString();
-    QScopedPointer<QTranslator> translator(new QTranslator);
-    const bool loaded = translator->load(QStringLiteral("%1_%2.qm").arg(base, language))
-        || translator->load(base + QStringLiteral(".qm"));
-    // Deleting a translator takes it out of the application.
-    m_translator.reset(loaded ? translator.take() : nullptr);
-    if (m_translator)
-        QCoreApplication::installTranslator(m_translator.data());
+    m_catalogue.load();
 }

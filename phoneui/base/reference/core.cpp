@@ -145,6 +145,7 @@ bool Core::setLanguageName(const QString &name)
     settings.set(QStringLiteral("Settings/Language"), name);
     if (!settings.save())
         return false;
+    emit languageChanged();
     const QStringList running = m_apps.keys();
     for (const QString &app : running)
         sendAppMsg(app, QStringLiteral("changedLanguage()"), QByteArray(""));

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int SmallPointSize = 18;
+constexpr int SmallStretch = 90; // percent of its width: two words stand clear of the outline
 const QColor grey(187, 187, 187);
 
 /// The colours of the two designs of the phone.
@@ -32,8 +33,10 @@ bool isDarkDesign()
 
 QFont fittedFont(QFont font, const QString &text, int widest)
 {
-    if (font.pointSize() == PointSize && QFontMetrics(font).horizontalAdvance(text) >= widest)
+    if (font.pointSize() == PointSize && QFontMetrics(font).horizontalAdvance(text) >= widest) {
         font.setPointSize(SmallPointSize);
+        font.setStretch(SmallStretch);
+    }
     return font;
 }
 

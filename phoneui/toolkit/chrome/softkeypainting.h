@@ -17,7 +17,7 @@ constexpr int OutlineSide = 4; ///< what the plate's outline and the free pixels
 /// The phone's dark design swaps the colours and pictures of the keys.
 bool isDarkDesign();
 
-/// The font as it is, or one step smaller when it has the point size of a soft key and the text is `widest` pixels
+/// The font as it is, or one step smaller and narrower when it has the point size of a soft key and the text is `widest` pixels
 /// wide or more. There is no second step.
 QFont fittedFont(QFont font, const QString &text, int widest);
 

@@ -6,7 +6,7 @@
 #include <QDebug>
 #include <QEvent>
 
-ListView::ListView(QWidget *parent) : QWidget(parent), m_emptyString(tr("No Items"))
+ListView::ListView(QWidget *parent) : QWidget(parent)
 {
     static constexpr int LongPressTime = 1000, AfterThisEvent = 1; // ms
 

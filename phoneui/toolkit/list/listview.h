@@ -113,8 +113,8 @@ public:
     /// Whether an empty list shows a picture and the empty string.
     void setShowEmptyString(bool show) { m_showEmptyString = show; }
     bool showEmptyString() const { return m_showEmptyString; }
-    void setEmptyString(QString const &text) { m_emptyString = text; }
-    QString emptyString() const { return m_emptyString; }
+    void setEmptyString(QString const &text) { m_emptyString = text.isNull() ? QString("") : text; }
+    QString emptyString() const { return m_emptyString.isNull() ? tr("No Items") : m_emptyString; }
 
     // Behaviour.
 
@@ -261,7 +261,7 @@ private:
     bool m_isEnabledLongPress = false;
     bool m_isEnabledArrowKeyMove = true;
     bool m_showEmptyString = false;
-    QString m_emptyString;
+    QString m_emptyString; ///< null while the list says the words of the current language
     bool m_keyPressFlag = false;
     bool m_activeLeaveFocusSignal = false;
     bool m_activeEndLeaveFocusSignal = false;

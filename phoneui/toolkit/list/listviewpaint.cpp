@@ -45,7 +45,7 @@ void ListView::paintGround(QPainter *painter)
 
 void ListView::paintEmptyLook(QPainter *painter)
 {
-    ListPainting::drawEmptyLook(painter, size(), m_emptyString);
+    ListPainting::drawEmptyLook(painter, size(), emptyString());
 }
 
 void ListView::paintScrollBar(QPainter *painter, const QColor &thumbColor)

@@ -32,7 +32,6 @@ ListViewItem *makeRow(int place, const ProgramKey &key)
 KeyModule::KeyModule() : AppScreen("aom"), m_keys(theCore->home().path("config/aom.ini")), m_list(addList(this))
 {
     m_list->setShowEmptyString(true);
-    m_list->setEmptyString(tr("No Keys"));
     connect(m_list, &ListView::clicked, this, &KeyModule::dialKey);
     connect(tail, &Tail::clicked, this, &KeyModule::softKeyClicked);
     refresh(0);
@@ -46,7 +45,7 @@ void KeyModule::receiveMsg(const QString &command, const QByteArray &payload)
         if (idx >= 0)
             refresh(idx);
     } else if (command == "changedLanguage()") {
-        reloadLanguage();
+        refresh(m_list->selectedIdx());
     }
 }
 
@@ -58,6 +57,7 @@ QString KeyModule::title() const
 
 void KeyModule::refresh(int selected)
 {
+    m_list->setEmptyString(tr("No Keys"));
     m_list->itemClear();
     const QList<ProgramKey> &keys = m_keys.keys();
     for (int i = 0; i < keys.size(); ++i)

@@ -104,8 +104,9 @@ void Call::receiveMsg(const QString &command, const QByteArray &payload)
     } else if (command == "HidePopup") {
         showStrip(false);
     } else if (command == "changedLanguage()") {
-        reloadLanguage();
         setupTail();
+        if (isActiveWindow())
+            setupStatus();
         update();
     }
 }

@@ -50,9 +50,8 @@ History::History() : BaseWidget(nullptr), BaseAppInterface("history", nullptr), 
     setModal(true);
     m_list->setGeometry(ListRect);
     m_list->setShowEmptyString(true);
-    m_list->setEmptyString(tr("No History"));
     setFocusProxy(m_list);
-    setupTail();
+    setupTexts();
     connect(tail, &Tail::clicked, this, &History::softKeyClicked);
     connect(m_list, &ListView::clicked, this, &History::dial);
     connect(m_list, &ListView::focusChanged, this, &History::setupTitle);
@@ -85,11 +84,16 @@ void History::receiveMsg(const QString &command, const QByteArray &payload)
         stream >> number;
         open(number);
     } else if (command == "changedLanguage()") {
-        reloadLanguage();
-        m_list->setEmptyString(tr("No History"));
-        setupTail();
-        update();
+        setupTexts();
+        reload();
     }
+}
+
+/// What is not written anew with each list of calls.
+void History::setupTexts()
+{
+    m_list->setEmptyString(tr("No History"));
+    setupTail();
 }
 
 void History::open(const QString &number)

@@ -31,6 +31,7 @@ private:
     void reload();
     HistoryItem *makeRow(const CallRecord &call) const;
     void setupTitle();
+    void setupTexts();
     void setupTail();
     void softKeyClicked(int idx);
     void dial();

@@ -5,6 +5,7 @@
 #include "control/apppayload.h"
 #include "core.h"
 #include "dialer.h"
+#include "phonekey.h"
 #include "rowpainting.h"
 #include "status.h"
 #include "tail.h"
@@ -117,8 +118,9 @@ void Idle::lowerStatus(const QStringList &)
 
 void Idle::changedLanguage(const QStringList &)
 {
-    reloadLanguage();
     setupTail();
+    if (isActiveWindow())
+        setupStatus();
 }
 
 void Idle::searchContactResult(const QStringList &items)
@@ -210,10 +212,19 @@ void Idle::callFavourite()
         dial(m_favourite.number(), m_favourite.name());
 }
 
+void Idle::chooseLanguage()
+{
+    if (status)
+        status->setTitle(tr("Language"));
+    m_languageChoice.run(this);
+}
+
 void Idle::keyPressEvent(QKeyEvent *event)
 {
     if (isOk(event->key()))
         m_okPressed = true;
+    else if (event->key() == PhoneKey::Hash)
+        m_hashPressed = true;
     else
         BaseWidget::keyPressEvent(event);
 }
@@ -227,6 +238,9 @@ void Idle::keyReleaseEvent(QKeyEvent *event)
         if (m_okPressed)
             callFavourite();
         m_okPressed = false;
+    } else if (event->key() == PhoneKey::Hash && m_hashPressed) {
+        m_hashPressed = false;
+        chooseLanguage();
     } else {
         BaseWidget::keyReleaseEvent(event);
     }

@@ -4,6 +4,7 @@
 #include "baseappinterface.h"
 #include "basewidget.h"
 #include "favourite.h"
+#include "languagechoice.h"
 
 #include <QTimer>
 
@@ -40,6 +41,7 @@ private:
     void turnWays();
     void openDirectory();
     void callFavourite();
+    void chooseLanguage();
 
     void raiseStatus(const QStringList &items);
     void lowerStatus(const QStringList &items);
@@ -54,9 +56,11 @@ private:
 
     QTimer m_clockTimer;
     Favourite m_favourite;
+    LanguageChoice m_languageChoice;
     bool m_hasDirectory = false; ///< the phone is set up with a directory server
     bool m_furtherWays = false; ///< the second set of soft keys shows
     bool m_okPressed = false; ///< here, and not in what closed above
+    bool m_hashPressed = false; ///< the same
 };
 
 #endif

@@ -44,7 +44,6 @@ MessageApp::MessageApp()
       m_form(new MessageForm(this))
 {
     m_list->setShowEmptyString(true);
-    m_list->setEmptyString(tr("No Messages"));
     connect(m_list, &ListView::clicked, this, &MessageApp::openSelected);
     connect(tail, &Tail::clicked, this, &MessageApp::softKeyClicked);
     connect(m_form, &MessageForm::sendRequested, this, &MessageApp::send);
@@ -78,7 +77,13 @@ void MessageApp::receiveMsg(const QString &command, const QByteArray &payload)
     else if (command == "setReceiver(str)")
         setReceiver(items.value(0).toString());
     else if (command == "changedLanguage()")
-        reloadLanguage();
+        changedLanguage();
+}
+
+void MessageApp::changedLanguage()
+{
+    m_form->setupTexts();
+    refresh();
 }
 
 QString MessageApp::title() const
@@ -95,6 +100,7 @@ void MessageApp::showEvent(QShowEvent *event)
 void MessageApp::refresh()
 {
     m_messages = m_store.all();
+    m_list->setEmptyString(tr("No Messages"));
     m_list->itemClear();
     for (const SentMessage &message : qAsConst(m_messages))
         m_list->addItem(makeRow(message));

@@ -26,6 +26,7 @@ protected:
 private:
     enum SoftKey { NewKey = 0, DeleteKey = 2, CloseKey = 3 };
 
+    void changedLanguage();
     void softKeyClicked(int key);
     void setReceiver(const QString &number);
     void openForm(const QString &number, const QString &text, bool forAnother);

@@ -27,9 +27,9 @@ MessageForm::MessageForm(QWidget *parent) : BaseWidget(parent), m_list(AppScreen
     setObjectName("MessageForm");
     setModal(true);
 
-    m_receiver = new ListViewLineEditItem(tr("To"), QString());
+    m_receiver = new ListViewLineEditItem(QString(), QString());
     m_receiver->setMaxLength(LongestNumber);
-    m_text = new ListViewLineEditItem(tr("Text"), QString());
+    m_text = new ListViewLineEditItem(QString(), QString());
     m_text->setMaxLength(MostCharacters);
     for (ListViewLineEditItem *row : {m_receiver, m_text}) {
         row->setEditTextLeftMargin(FieldShift);
@@ -42,12 +42,22 @@ MessageForm::MessageForm(QWidget *parent) : BaseWidget(parent), m_list(AppScreen
     connect(m_list, &ListView::focusChanged, this, &MessageForm::chooseInput);
     connect(m_list, &ListView::changeLineEditText, this, &MessageForm::showDetails);
 
+    setupTexts();
+    connect(tail, &Tail::clicked, this, &MessageForm::softKeyClicked);
+    connect(tail, &Tail::longPress, this, &MessageForm::softKeyHeld);
+}
+
+void MessageForm::setupTexts()
+{
+    m_receiver->setText(tr("To"));
+    m_text->setText(tr("Text"));
     tail->setFuncButtonText(CloseKey, tr("Close"));
     tail->setFuncButtonText(SearchKey, tr("Search"));
     tail->setFuncButtonText(EraseKey, QString());
     tail->setFuncButtonText(SendKey, tr("Send"));
-    connect(tail, &Tail::clicked, this, &MessageForm::softKeyClicked);
-    connect(tail, &Tail::longPress, this, &MessageForm::softKeyHeld);
+    m_list->update();
+    if (isActiveWindow())
+        setupStatus();
 }
 
 void MessageForm::setupStatus()

@@ -25,6 +25,8 @@ public:
 
     using BaseWidget::bringUp;
 
+    /// Writes the words of the form in the phone's language, at first and after a change.
+    void setupTexts();
     /// Shows the form for a new message, whatever it held before.
     void open(const QString &number, const QString &text);
     /// Gives the message that is being written its receiver.
