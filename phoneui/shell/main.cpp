@@ -46,6 +46,11 @@ bool readOptions(const QStringList &arguments, Options *options, int *exitCode)
         return false;
     }
     if (parser.isSet("help")) {
+        // The text names the program, which it asks the application for.
+        int count = 1;
+        char name[] = "phoneui";
+        char *names[] = {name, nullptr};
+        const QCoreApplication app(count, names);
         QTextStream(stdout) << parser.helpText();
         *exitCode = 0;
         return false;

@@ -18,7 +18,7 @@ public:
     /// Types into the focused field, as a PC keyboard does.
     PhoneScript &text(const QString &words);
     PhoneScript &call(const std::function<void()> &action);
-    /// Waits until the condition holds; `what` is told when it does not within five seconds.
+    /// Waits until the condition holds; `what` is told when it does not within three seconds.
     PhoneScript &until(const QString &what, const std::function<bool()> &condition);
     /// Waits until a widget of that class is the one whose window is active.
     PhoneScript &untilActive(const QByteArray &className);

@@ -2,6 +2,7 @@
 # 300 people are imported, then a script moves through them on a phone that starts for it and ends with it.
 . "$(dirname "$0")/support.sh"
 
+phoneui --help | grep -q -- --home || fail "the help"
 python3 "$here/people.py" >"$work/people.vcf"
 phoneui --empty --script /dev/null
 phonebook import "$work/people.vcf" >"$work/report" 2>/dev/null || fail "the import"

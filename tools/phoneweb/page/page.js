@@ -27,15 +27,20 @@ async function showPicture(base64) {
   if (number === newest) display.getContext("2d").drawImage(picture, 0, 0);
 }
 
-// Each of the phone's pixels takes a whole number of the screen's.
+// Each of the phone's pixels takes a whole number of the screen's, but on a screen too narrow for the display.
 function fitDisplay() {
   const [phone, face, head, foot] = ["phone", "face", "head", "foot"].map(byId);
   const padding = 2 * parseFloat(getComputedStyle(face).paddingLeft);
-  const besides = phone.offsetWidth - face.offsetWidth + padding + head.offsetWidth - display.offsetWidth;
-  const above = phone.offsetHeight + foot.offsetHeight - display.offsetHeight;
-  const scale = Math.min((innerWidth - besides) / display.width, (innerHeight - above) / display.height);
-  const whole = Math.max(1, Math.floor(scale * devicePixelRatio)) / devicePixelRatio;
-  document.documentElement.style.setProperty("--pixel", `${whole}px`);
+  const margins = 2 * parseFloat(getComputedStyle(phone).marginLeft);
+  const besides = margins + phone.offsetWidth - face.offsetWidth + padding + head.offsetWidth - display.offsetWidth;
+  const above = margins + phone.offsetHeight + foot.offsetHeight - display.offsetHeight;
+  // On a touch screen innerWidth grows with what does not fit.
+  const across = (document.documentElement.clientWidth - besides) / display.width;
+  const fitting = Math.min(across, (innerHeight - above) / display.height);
+  const whole = Math.max(1, Math.floor(fitting * devicePixelRatio)) / devicePixelRatio;
+  const size = across < 1 ? across : Math.max(1, whole);
+  display.classList.toggle("shrunk", size < 1);
+  document.documentElement.style.setProperty("--pixel", `${size}px`);
 }
 
 // ---- The phone, and whether it is there
@@ -92,6 +97,12 @@ function watchButton(button, key) {
     if (ARROWS.has(key)) timer = setTimeout(repeat, REPEAT_AFTER);
   });
   for (const end of ["pointerup", "pointerleave", "pointercancel"]) button.addEventListener(end, release);
+  // What reads the page aloud clicks without a pointer.
+  button.addEventListener("click", (event) => {
+    if (event.detail !== 0) return;
+    keys.press(key);
+    keys.release(key);
+  });
   button.addEventListener("contextmenu", (event) => event.preventDefault());
 }
 
