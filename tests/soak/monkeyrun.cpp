@@ -20,7 +20,7 @@
 #include <csignal>
 #include <unistd.h>
 
-static constexpr int StallLimit = 20; // s without a turn of any event loop
+static constexpr int StallLimit = 30; // s without a turn of any event loop
 static constexpr int OddityLimit = 2500; // ms, more than a notice stands
 
 int MonkeyRun::s_deepestLoop = 0;
@@ -90,7 +90,7 @@ void MonkeyRun::step()
 {
     alarm(StallLimit);
     s_deepestLoop = qMax(s_deepestLoop, QThread::currentThread()->loopLevel());
-    if (m_sinceEvent.elapsed() < (m_count % 3 ? 1 : 0) || PhoneKey::pending())
+    if (m_sinceEvent.elapsed() < (m_count % 3 == 0 ? 1 : 0) || PhoneKey::pending())
         return;
     const QString odd = oddity();
     if (odd.isEmpty())
@@ -318,7 +318,8 @@ QString MonkeyRun::oddity() const
         const QList<ListView *> lists = window->findChildren<ListView *>();
         for (ListView *list : lists) {
             const int at = list->selectedIdx();
-            if (list->isVisible() && (at < -1 || at >= qMax(list->itemSize(), 1)))
+            // A list that was emptied keeps its selection for the rows that may come.
+            if (list->isVisible() && list->itemSize() > 0 && (at < -1 || at >= list->itemSize()))
                 return QString("%1 selects %2 of %3 in %4")
                     .arg(list->metaObject()->className())
                     .arg(at)
