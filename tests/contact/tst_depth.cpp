@@ -32,6 +32,7 @@ class DepthTest : public TestCase
 private slots:
     void commandsInTheMiddle_data();
     void commandsInTheMiddle();
+    void aScreenComesForwardWithWhatStandsOverIt();
     void payloads_data();
     void payloads();
 
@@ -190,6 +191,21 @@ void DepthTest::commandsInTheMiddle()
     QVERIFY(m_screen->open());
     click(Qt::Key_Down);
     QCOMPARE(m_screen->selectedName(), QString("Kim"));
+}
+
+/// A screen that is asked for again while a modal window stands over it must not come up deaf to the keys.
+void DepthTest::aScreenComesForwardWithWhatStandsOverIt()
+{
+    PhoneScript script;
+    script.call([this] { send("newContact(str)"); })
+        .untilActive("NumberEdit")
+        .opens(Qt::Key_Context1, "SelectPopup")
+        .call([this] { send("newContact(str)"); })
+        .until("a moment to pass", pause())
+        .opens(Qt::Key_Escape, "NumberEdit")
+        .keys({Qt::Key_Escape})
+        .until("everything to close", [] { return !QApplication::activeWindow(); });
+    QCOMPARE(script.run(), QString());
 }
 
 void DepthTest::payloads_data()

@@ -27,6 +27,7 @@ private slots:
     void addsTheNumberItIsGiven();
     void cutsWhileTyping();
     void deletesAnEmptyField();
+    void aRowMayGoWhileItsPopupStands();
     void pictures();
 
 private:
@@ -236,6 +237,20 @@ void NumberEditTest::deletesAnEmptyField()
     QTRY_VERIFY(edit->hasFocus());
     edit->clear();
     QCOMPARE(softKeys().at(2), QString("Erase"));
+}
+
+void NumberEditTest::aRowMayGoWhileItsPopupStands()
+{
+    openForm(-1, "123");
+    const int last = list()->itemSize() - 1;
+    list()->setSelectedIdx(last);
+    settle();
+    PhoneScript script;
+    script.opens(Qt::Key_Return, "SelectPopup")
+        .call([&] { list()->removeItem(last); })
+        .opens(Qt::Key_Return, "NumberEdit");
+    QCOMPARE(script.run(), QString());
+    QCOMPARE(list()->itemSize(), last);
 }
 
 void NumberEditTest::pictures()

@@ -3,6 +3,7 @@
 
 #include "basewidget.h"
 
+#include <QApplication>
 #include <QPointer>
 
 /// Tells a handler, after an event loop of its own has returned, whether its screen was closed meanwhile: any
@@ -19,17 +20,26 @@ private:
     int m_hideCount;
 };
 
+/// Of modal windows the one shown last takes the keys: a screen raised over it would show, deaf to every key, also
+/// to the one that leads out. So what was opened over the screen stays in front of it.
+inline void bringForward(QWidget *screen)
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    QWidget *front = modal ? modal : screen;
+    front->raise();
+    front->activateWindow();
+}
+
 /// Runs a child screen in its own event loop and deletes it afterwards, never before: makes it with `make`, keeps
 /// it in `slot` while it runs, and calls `finished` with it unless the owner was closed meanwhile.
 ///
-/// A screen that already runs in the slot is brought to the front instead. Whoever closes the screen from outside
-/// closes it and may empty the slot; the deleting stays here.
+/// A screen that already runs in the slot is brought to the front instead, with what stands over it. Whoever closes
+/// the screen from outside closes it and may empty the slot; the deleting stays here.
 template <typename Screen, typename Make, typename Finished>
 void runScreen(QPointer<Screen> &slot, const BaseWidget *owner, Make make, Finished finished)
 {
     if (slot) {
-        slot->raise();
-        slot->activateWindow();
+        bringForward(slot);
         return;
     }
     const ScreenWatch watch(owner);

@@ -239,13 +239,14 @@ void NumberEdit::removeItem()
     const int idx = m_listView->selectedIdx();
     if (!isRemovable(idx))
         return;
+    const ListViewItem *row = m_listView->item(idx);
     const ScreenWatch watch(this);
     MessageBox box(this);
     const bool wanted = Notices::ask(this, box, tr("Delete Field"), tr("Do you want to delete this Field?"),
                                      tr("Delete"), tr("No"));
     if (watch.closed())
         return;
-    if (wanted && isRemovable(idx)) {
+    if (wanted && isRemovable(idx) && m_listView->item(idx) == row) {
         if (fieldOf(idx) == BellField)
             m_bell.clear();
         m_listView->removeItem(idx);
@@ -279,11 +280,13 @@ void NumberEdit::chooseGroups()
 void NumberEdit::chooseKindOfRow(int idx)
 {
     const ScreenWatch watch(this);
-    const int kind = chooseNumberKind(getNumberType(m_listView->item(idx)->text()));
+    ListViewItem *row = m_listView->item(idx);
+    const int kind = chooseNumberKind(getNumberType(row->text()));
     if (watch.closed())
         return;
-    if (kind >= 0)
-        m_listView->item(idx)->setText(getNumberTypeStr(kind));
+    // Keys pressed faster than the popup came may have deleted the row below it.
+    if (kind >= 0 && m_listView->item(idx) == row)
+        row->setText(getNumberTypeStr(kind));
     returnToRow(-1);
     m_listView->update();
 }
@@ -325,7 +328,7 @@ void NumberEdit::chooseBell(int idx)
     }
     if (watch.closed())
         return;
-    if (!chosen.isEmpty()) {
+    if (!chosen.isEmpty() && m_listView->item(idx) == row) {
         m_bell = bellPath(chosen);
         row->setSelectedText(chosen);
     }
