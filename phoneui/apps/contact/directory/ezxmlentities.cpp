@@ -198,8 +198,12 @@ void EzxmlEntities::expand(Source source, Kind kind)
     const int stops = marks(kind);
     while (!m_overflown) {
         const char *from = source.at;
-        while (source.at < source.end && !is(*source.at, stops))
-            ++source.at;
+        if (kind == Content && m_suspended.empty()) { // in the document itself, where a text ends before a tag
+            source.at = std::min(findContentMark(source.at, m_lastReach, source.end), source.end);
+        } else {
+            while (source.at < source.end && !is(*source.at, stops))
+                ++source.at;
+        }
         m_output.put(from, source.at);
         if (source.at < source.end) {
             expandMark(&source, kind);

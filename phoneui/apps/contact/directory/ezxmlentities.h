@@ -77,6 +77,12 @@ public:
     /// What the entities may expand to altogether follows from the document's length.
     EzxmlEntities(EzxmlMemory * memory, std::size_t documentLength);
 
+    /// Up to where EzxmlText::reach bytes of the document can be read.
+    void setLastReach(const char *lastReach)
+    {
+        m_lastReach = lastReach;
+    }
+
     /// Of two declarations of one name the first is in force.
     void declare(const std::string &name, const std::string &replacement)
     {
@@ -130,6 +136,7 @@ private:
 
     EzxmlMemory *m_memory;
     std::size_t m_allowance;
+    const char *m_lastReach = nullptr;
     bool m_overflown = false;
     Names m_general;
     Names m_parameters;
