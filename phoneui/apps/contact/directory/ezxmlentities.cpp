@@ -174,8 +174,12 @@ std::string EzxmlEntities::circular() const
 char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
 {
     char *const end = text + *length;
+    char *at = text;
     m_output.start(text, *length);
-    expand({text, end}, kind);
+    if (kind == Content)
+        at = decodeBuiltIns(text, end);
+    if (at < end)
+        expand({at, end}, kind);
     if (kind == AttributeToken)
         m_output.truncate(collapseSpaces(m_output.data(), m_output.size()));
     *length = m_output.size();
@@ -184,6 +188,19 @@ char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
     // Nothing that was moved may stand there twice: lines are counted when a fault is told.
     std::memset(text + *length, '\0', static_cast<std::size_t>(end - text) - *length);
     return text;
+}
+
+char *EzxmlEntities::decodeBuiltIns(char *at, char *end)
+{
+    for (;;) {
+        char *mark = std::min(findContentMark(at, m_lastReach, end), end);
+        m_output.put(at, mark);
+        const BuiltIn *known = mark < end && *mark == '&' ? builtIn(mark, end) : nullptr;
+        if (!known)
+            return mark;
+        m_output.put(known->character);
+        at = mark + 1 + known->name.size();
+    }
 }
 
 std::string EzxmlEntities::decoded(std::string text, Kind kind)
@@ -198,12 +215,8 @@ void EzxmlEntities::expand(Source source, Kind kind)
     const int stops = marks(kind);
     while (!m_overflown) {
         const char *from = source.at;
-        if (kind == Content && m_suspended.empty()) { // in the document itself, where a text ends before a tag
-            source.at = std::min(findContentMark(source.at, m_lastReach, source.end), source.end);
-        } else {
-            while (source.at < source.end && !is(*source.at, stops))
-                ++source.at;
-        }
+        while (source.at < source.end && !is(*source.at, stops))
+            ++source.at;
         m_output.put(from, source.at);
         if (source.at < source.end) {
             expandMark(&source, kind);

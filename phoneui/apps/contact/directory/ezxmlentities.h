@@ -128,6 +128,8 @@ private:
     };
 
     static const std::string *replacement(const Names &names, std::string_view name);
+    /// The beginning of a text of the document, where most have no more than these; returns what is left.
+    char *decodeBuiltIns(char *at, char *end);
     /// Decodes into m_output.
     void expand(Source text, Kind kind);
     void expandMark(Source * source, Kind kind);

@@ -30,6 +30,9 @@ struct EzxmlName
 
     EzxmlName(const char *from, std::size_t size, std::uint64_t itsKey) : text(from), length(size), key(itsKey) { }
 
+    /// From 0 to 63.
+    unsigned hash() const { return static_cast<unsigned>((key * 0x9e3779b97f4a7c15U) >> 58); }
+
     /// Whether the text up to `end` starts with this name.
     bool opens(const char *from, const char *end) const
     {
@@ -85,7 +88,7 @@ public:
     /// Links an element behind its forerunners of the same name.
     [[gnu::always_inline]] void append(Scope * scope, const EzxmlName &name, ezxml *element)
     {
-        const std::uint64_t bit = std::uint64_t(1) << (name.key >> 8) % 64; // by the second letter
+        const std::uint64_t bit = std::uint64_t(1) << name.hash();
         if (scope->seen & bit) {
             if (m_entries[scope->latest].is(name) || find(scope, name, element->parent)) {
                 Entry &entry = m_entries[scope->latest];

@@ -334,7 +334,7 @@ void EzxmlParser::learnLeaf(const EzxmlName &tag)
 
 inline EzxmlLeaf *EzxmlParser::leafBehind(const EzxmlName &tag)
 {
-    return &m_leaves[(tag.key * 0x9e3779b97f4a7c15U) >> 58];
+    return &m_leaves[tag.hash()];
 }
 
 char *EzxmlParser::readLeaves(char *at)
