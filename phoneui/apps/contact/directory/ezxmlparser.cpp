@@ -99,7 +99,7 @@ private:
 
     ezxml_root *m_root;
     char *m_end;
-    const char *m_lastReach = nullptr; ///< from here on fewer than EzxmlText::reach bytes can be read
+    const char *m_lastReach = nullptr; ///< the last place from which EzxmlText::reach bytes can be read
     char m_last = '\0';
     bool m_hasRoot = false;
     EzxmlMemory &m_memory;
