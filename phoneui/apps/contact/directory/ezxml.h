@@ -30,11 +30,8 @@ struct ezxml
     short declared; ///< 1 when the document type declares attributes for this name
 };
 
-enum {
-    EZXML_DUP = 0x20, ///< the strings are copies
-    EZXML_TXTM = 0x40, ///< txt lies on the heap
-    EZXML_NAMEM = 0x80 ///< name lies on the heap
-};
+/// In flags: txt lies outside of the document's buffer.
+enum { EZXML_TXTM = 0x40 };
 
 struct ezxml_root
 {

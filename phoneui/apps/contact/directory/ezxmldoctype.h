@@ -7,32 +7,23 @@ class EzxmlInstructions;
 
 /// The document type of one document: declares its entities, and knows the types and default values of attributes.
 /// Only what stands in the document itself is read; external subsets and entities are not fetched.
-class [[gnu::visibility("hidden")]] EzxmlDoctype
+class EzxmlDoctype
 {
 public:
     /// What stands between the brackets of the document type; `*at` is moved from behind the first to behind the
     /// last one. False after a fault: then `*at` is where it was noticed.
     bool read(char **at, const char *end, EzxmlEntities *entities, EzxmlInstructions *instructions);
-    const std::string &fault() const
-    {
-        return m_fault;
-    }
+    const std::string &fault() const { return m_fault; }
 
     /// No attribute is declared.
-    bool isEmpty() const
-    {
-        return m_elements.empty();
-    }
-    bool declares(std::string_view element) const
-    {
-        return m_elements.find(element) != m_elements.end();
-    }
+    bool isEmpty() const { return m_elements.empty(); }
+    bool declares(std::string_view element) const { return m_elements.find(element) != m_elements.end(); }
     EzxmlEntities::Kind kind(std::string_view element, std::string_view attribute) const;
     /// Null when there is none.
     const char *defaultValue(std::string_view element, std::string_view attribute) const;
 
     /// Per element its name, then triples of attribute name, default or null, and the kind of decoding as a text.
-    char ***table(EzxmlMemory * memory) const;
+    char ***table(EzxmlMemory *memory) const;
 
 private:
     struct Attribute
@@ -56,26 +47,20 @@ private:
     bool readInstruction();
     bool readEntity();
     bool readAttributes();
-    bool readAttribute(Attributes * attributes);
+    bool readAttribute(Attributes *attributes);
     bool skipComment();
     bool skipDeclaration();
 
-    Input &input()
-    {
-        return m_inputs.back();
-    }
-    bool atEnd() const
-    {
-        return m_inputs.back().at == m_inputs.back().end;
-    }
+    Input &input() { return m_inputs.back(); }
+    bool atEnd() const { return m_inputs.back().at == m_inputs.back().end; }
     bool fail(const std::string &fault);
     void skipSpace();
     bool take(std::string_view word);
     std::string_view takeName();
-    bool takeType(EzxmlEntities::Kind * kind);
+    bool takeType(EzxmlEntities::Kind *kind);
     /// False when no closed quotation starts here.
-    bool takeQuoted(std::string * value);
-    void decode(std::string * text, EzxmlEntities::Kind kind);
+    bool takeQuoted(std::string *value);
+    void decode(std::string *text, EzxmlEntities::Kind kind);
 
     std::map<std::string, Attributes, std::less<>> m_elements;
 

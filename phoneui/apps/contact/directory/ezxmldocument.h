@@ -6,13 +6,13 @@
 #include "ezxmlmemory.h"
 
 /// What belongs to a tree beside its root record and its buffer.
-class [[gnu::visibility("hidden")]] EzxmlDocument
+class EzxmlDocument
 {
 public:
     /// A root record with all fields set, as of an empty document.
     static ezxml_root *newRoot();
     /// The fields of an element without attributes, text and kin.
-    static void clear(ezxml * element)
+    static void clear(ezxml *element)
     {
         *element = ezxml();
         element->attr = const_cast<char **>(EZXML_NIL);

@@ -174,8 +174,12 @@ std::string EzxmlEntities::circular() const
 char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
 {
     char *const end = text + *length;
+    char *at = text;
     m_output.start(text, *length);
-    expand({text, end}, kind);
+    if (kind == Content)
+        at = decodeBuiltIns(text, end);
+    if (at < end)
+        expand({at, end}, kind);
     if (kind == AttributeToken)
         m_output.truncate(collapseSpaces(m_output.data(), m_output.size()));
     *length = m_output.size();
@@ -184,6 +188,19 @@ char *EzxmlEntities::decode(char *text, std::size_t *length, Kind kind)
     // Nothing that was moved may stand there twice: lines are counted when a fault is told.
     std::memset(text + *length, '\0', static_cast<std::size_t>(end - text) - *length);
     return text;
+}
+
+char *EzxmlEntities::decodeBuiltIns(char *at, char *end)
+{
+    for (;;) {
+        char *mark = std::min(findContentMark(at, m_lastReach, end), end);
+        m_output.put(at, mark);
+        const BuiltIn *known = mark < end && *mark == '&' ? builtIn(mark, end) : nullptr;
+        if (!known)
+            return mark;
+        m_output.put(known->character);
+        at = mark + 1 + known->name.size();
+    }
 }
 
 std::string EzxmlEntities::decoded(std::string text, Kind kind)

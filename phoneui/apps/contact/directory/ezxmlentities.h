@@ -10,7 +10,7 @@
 class EzxmlMemory;
 
 /// Where a text is decoded to: its own place, over what has been read of it, as long as nothing has to grow.
-class [[gnu::visibility("hidden")]] EzxmlOutput
+class EzxmlOutput
 {
 public:
     void start(char *place, std::size_t length)
@@ -34,22 +34,10 @@ public:
     }
     void put(const char *from, const char *to);
 
-    char *data()
-    {
-        return m_start;
-    }
-    std::size_t size() const
-    {
-        return static_cast<std::size_t>(m_at - m_start);
-    }
-    void truncate(std::size_t size)
-    {
-        m_at = m_start + size;
-    }
-    bool isDetached() const
-    {
-        return m_isDetached;
-    }
+    char *data() { return m_start; }
+    std::size_t size() const { return static_cast<std::size_t>(m_at - m_start); }
+    void truncate(std::size_t size) { m_at = m_start + size; }
+    bool isDetached() const { return m_isDetached; }
 
 private:
     void grow(std::size_t bytes);
@@ -62,7 +50,7 @@ private:
 };
 
 /// The entities of one document, and the decoding of texts with them.
-class [[gnu::visibility("hidden")]] EzxmlEntities
+class EzxmlEntities
 {
 public:
     /// What is expanded in a text, and how its white space is taken.
@@ -75,26 +63,20 @@ public:
     };
 
     /// What the entities may expand to altogether follows from the document's length.
-    EzxmlEntities(EzxmlMemory * memory, std::size_t documentLength);
+    EzxmlEntities(EzxmlMemory *memory, std::size_t documentLength);
+
+    /// Up to where EzxmlText::reach bytes of the document can be read.
+    void setLastReach(const char *lastReach) { m_lastReach = lastReach; }
 
     /// Of two declarations of one name the first is in force.
-    void declare(const std::string &name, const std::string &replacement)
-    {
-        m_general.emplace(name, replacement);
-    }
+    void declare(const std::string &name, const std::string &replacement) { m_general.emplace(name, replacement); }
     void declareParameter(const std::string &name, const std::string &replacement)
     {
         m_parameters.emplace(name, replacement);
     }
-    std::size_t parameterCount() const
-    {
-        return m_parameters.size();
-    }
+    std::size_t parameterCount() const { return m_parameters.size(); }
     /// Null for a name that is not declared.
-    const std::string *parameter(std::string_view name) const
-    {
-        return replacement(m_parameters, name);
-    }
+    const std::string *parameter(std::string_view name) const { return replacement(m_parameters, name); }
     /// The name of an entity that contains itself, be it through others; empty when there is none.
     std::string circular() const;
 
@@ -105,10 +87,7 @@ public:
     /// Takes a replacement of `bytes` from what the document may expand to.
     void spend(std::size_t bytes);
     /// The entities expand to more than any honest document's do; what decode() returned is cut off.
-    bool overflown() const
-    {
-        return m_overflown;
-    }
+    bool overflown() const { return m_overflown; }
 
     /// Pairs of name with semicolon and replacement up to a null pointer, the built-in entities first.
     char **table() const;
@@ -122,14 +101,17 @@ private:
     };
 
     static const std::string *replacement(const Names &names, std::string_view name);
+    /// The beginning of a text of the document, where most have no more than these; returns what is left.
+    char *decodeBuiltIns(char *at, char *end);
     /// Decodes into m_output.
     void expand(Source text, Kind kind);
-    void expandMark(Source * source, Kind kind);
-    bool expandNumber(Source * source);
-    bool expandName(Source * source, Kind kind);
+    void expandMark(Source *source, Kind kind);
+    bool expandNumber(Source *source);
+    bool expandName(Source *source, Kind kind);
 
     EzxmlMemory *m_memory;
     std::size_t m_allowance;
+    const char *m_lastReach = nullptr;
     bool m_overflown = false;
     Names m_general;
     Names m_parameters;

@@ -9,23 +9,17 @@
 class EzxmlMemory;
 
 /// The processing instructions of one document.
-class [[gnu::visibility("hidden")]] EzxmlInstructions
+class EzxmlInstructions
 {
 public:
     /// Takes what stands between `<?` and `?>`, which may be the XML declaration.
     void add(std::string_view instruction);
     /// The XML declaration says that nothing outside of the document bears on it.
-    bool isStandalone() const
-    {
-        return m_standalone;
-    }
+    bool isStandalone() const { return m_standalone; }
 
     /// Per target that target, then its instructions up to a null pointer.
-    bool isEmpty() const
-    {
-        return m_targets.empty();
-    }
-    char ***table(EzxmlMemory * memory) const;
+    bool isEmpty() const { return m_targets.empty(); }
+    char ***table(EzxmlMemory *memory) const;
 
 private:
     std::map<std::string, std::vector<std::string>, std::less<>> m_targets;

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 /// Memory that is handed out piece by piece and freed as a whole: the records of one tree.
-class [[gnu::visibility("hidden")]] EzxmlMemory
+class EzxmlMemory
 {
 public:
     EzxmlMemory() = default;
@@ -13,10 +13,7 @@ public:
     ~EzxmlMemory();
 
     /// How much will be needed, as far as one can tell beforehand.
-    void expect(std::size_t bytes)
-    {
-        m_nextBlock = bytes;
-    }
+    void expect(std::size_t bytes) { m_nextBlock = bytes; }
 
     /// Aligned for pointers; what it holds is undefined.
     void *allocate(std::size_t bytes)
@@ -29,10 +26,7 @@ public:
         return piece;
     }
 
-    template <typename T> T *array(std::size_t count)
-    {
-        return static_cast<T *>(allocate(count * sizeof(T)));
-    }
+    template <typename T> T *array(std::size_t count) { return static_cast<T *>(allocate(count * sizeof(T))); }
 
     /// A copy that ends in a NUL.
     char *text(const char *from, std::size_t length);

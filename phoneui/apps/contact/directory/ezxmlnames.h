@@ -30,6 +30,9 @@ struct EzxmlName
 
     EzxmlName(const char *from, std::size_t size, std::uint64_t itsKey) : text(from), length(size), key(itsKey) { }
 
+    /// From 0 to 63.
+    unsigned hash() const { return static_cast<unsigned>((key * 0x9e3779b97f4a7c15U) >> 58); }
+
     /// Whether the text up to `end` starts with this name.
     bool opens(const char *from, const char *end) const
     {
@@ -60,7 +63,7 @@ private:
 /// The names of the children that the open elements have so far, each with its first and last element, so that an
 /// element is appended at the same cost wherever it comes. The names of one element lie together on top of those
 /// of the elements around it.
-class [[gnu::visibility("hidden")]] EzxmlNames
+class EzxmlNames
 {
 public:
     /// The names under one parent: from `first` to the top.
@@ -73,19 +76,13 @@ public:
 
     EzxmlNames() = default;
 
-    Scope open() const
-    {
-        return {m_entries.size(), m_entries.size(), 0};
-    }
-    void close(const Scope &scope)
-    {
-        m_entries.truncate(scope.first);
-    }
+    Scope open() const { return {m_entries.size(), m_entries.size(), 0}; }
+    void close(const Scope &scope) { m_entries.truncate(scope.first); }
 
     /// Links an element behind its forerunners of the same name.
-    [[gnu::always_inline]] void append(Scope * scope, const EzxmlName &name, ezxml *element)
+    [[gnu::always_inline]] void append(Scope *scope, const EzxmlName &name, ezxml *element)
     {
-        const std::uint64_t bit = std::uint64_t(1) << (name.key >> 8) % 64; // by the second letter
+        const std::uint64_t bit = std::uint64_t(1) << name.hash();
         if (scope->seen & bit) {
             if (m_entries[scope->latest].is(name) || find(scope, name, element->parent)) {
                 Entry &entry = m_entries[scope->latest];
@@ -115,7 +112,7 @@ private:
     static const std::size_t s_scanned = 12;
 
     /// Makes the name the latest; false when there is no such name yet.
-    bool find(Scope * scope, EzxmlName name, const ezxml *parent)
+    bool find(Scope *scope, EzxmlName name, const ezxml *parent)
     {
         std::size_t entry = m_entries.size();
         if (entry - scope->first > s_scanned)
@@ -129,7 +126,7 @@ private:
         return false;
     }
 
-    void add(Scope * scope, const EzxmlName &name, ezxml *element)
+    void add(Scope *scope, const EzxmlName &name, ezxml *element)
     {
         scope->latest = m_entries.size();
         if (scope->latest > scope->first) {
@@ -141,7 +138,7 @@ private:
             indexTop(scope->first);
     }
 
-    bool findHashed(Scope * scope, EzxmlName name, const ezxml *parent);
+    bool findHashed(Scope *scope, EzxmlName name, const ezxml *parent);
     std::uint64_t hash(const EzxmlName &name, const ezxml *parent) const;
     /// The slot that holds the name, or the free one where it belongs.
     std::size_t slot(const EzxmlName &name, const ezxml *parent) const;

@@ -35,6 +35,8 @@ public:
     void parse();
 
 private:
+    static const std::size_t s_shortRun = 16;
+
     /// An element that is not closed yet.
     struct Open
     {
@@ -76,6 +78,11 @@ private:
     void addText(char *text, std::size_t length);
     /// The same for one that stands in the document as it is.
     void addRun(char *text, std::size_t length);
+    /// Most are a line feed and spaces: with a copy of fixed size they need no loop.
+    bool isShortRun(const char *text, std::size_t length) const
+    {
+        return length <= s_shortRun && text <= m_lastReach && text >= m_root->s;
+    }
     void append(const char *text, std::size_t length) { std::memcpy(m_joined.push(length), text, length); }
     /// False after a fault.
     bool decode(char **text, std::size_t *length, EzxmlEntities::Kind kind);
@@ -92,7 +99,7 @@ private:
 
     ezxml_root *m_root;
     char *m_end;
-    const char *m_lastReach = nullptr; ///< from here on fewer than EzxmlText::reach bytes can be read
+    const char *m_lastReach = nullptr; ///< the last place from which EzxmlText::reach bytes can be read
     char m_last = '\0';
     bool m_hasRoot = false;
     EzxmlMemory &m_memory;
@@ -127,6 +134,7 @@ EzxmlParser::EzxmlParser(ezxml_root *root, char *text, std::size_t length)
     root->e = m_end;
     if (distance(text, m_end) >= reach)
         m_lastReach = m_end - reach;
+    m_entities.setLastReach(m_lastReach);
 }
 
 void EzxmlParser::parse()
@@ -326,7 +334,7 @@ void EzxmlParser::learnLeaf(const EzxmlName &tag)
 
 inline EzxmlLeaf *EzxmlParser::leafBehind(const EzxmlName &tag)
 {
-    return &m_leaves[(tag.key * 0x9e3779b97f4a7c15U) >> 58];
+    return &m_leaves[tag.hash()];
 }
 
 char *EzxmlParser::readLeaves(char *at)
@@ -485,14 +493,18 @@ void EzxmlParser::close()
 
 [[gnu::always_inline]] inline void EzxmlParser::addRun(char *text, std::size_t length)
 {
-    const std::size_t block = 16;
     Open &open = m_open.top();
-    if (open.textLength == 0)
+    if (open.textLength == 0) {
         open.run = text;
-    else if (open.run || length > block || text > m_lastReach)
-        return addText(text, length);
-    else // Most are a line feed and spaces: with a copy of fixed size they need no loop.
-        std::memcpy(m_joined.push(length, block), text, block);
+    } else if (!isShortRun(text, length) || (open.run && !isShortRun(open.run, open.textLength))) {
+        addText(text, length);
+        return;
+    } else {
+        if (open.run)
+            std::memcpy(m_joined.push(open.textLength, s_shortRun), open.run, s_shortRun);
+        open.run = nullptr;
+        std::memcpy(m_joined.push(length, s_shortRun), text, s_shortRun);
+    }
     open.textLength += length;
 }
 

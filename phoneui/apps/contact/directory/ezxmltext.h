@@ -157,7 +157,7 @@ inline char *findNameEnd(char *at, const char *lastReach)
 }
 
 /// The first of `<`, `&` and CR, or `end`.
-inline char *findContentMark(char *at, const char *lastReach, const char *end)
+template <typename Char> Char *findContentMark(Char *at, const char *lastReach, const char *end)
 {
 #ifdef __SSE2__
     for (; at <= lastReach; at += blockSize) {

@@ -36,7 +36,11 @@ namespace {
 
 bool same(const char *a, const char *b)
 {
-    return *a == *b && std::strcmp(a, b) == 0;
+    while (*a == *b && *a) {
+        ++a;
+        ++b;
+    }
+    return *a == *b;
 }
 
 }
