@@ -1,66 +1,20 @@
 // From a key in the search line to the finished frame, beside a filtered model in Qt's own list.
 //
-// Each pass is one key: words are typed letter by letter and erased again. The counters are in microseconds; that
-// of the processor time is the one to look at on a machine that is busy with other things.
+// Each pass is one key: words are typed letter by letter and erased again.
 
-#include "contactmanager.h"
-#include "displaysetup.h"
+#include "phonebench.h"
 #include "phonekeys.h"
 #include "searchall.h"
-#include "testphone.h"
-#include "testscreen.h"
-#include "wpsmcontactmanager.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <benchmark/benchmark.h>
-#include <ctime>
-#include <memory>
-#include <vector>
-
 namespace {
 
-constexpr int MobileShare = 20; // one contact in so many is the paired device's
-
-QStringList families()
-{
-    return {"Adams",   "Baker",    "Clarke",  "Dubois", "Eriksson", "Fischer",    "García", "Hansen", "Ivanović",
-            "Jónsson", "Kowalski", "Łukasik", "Müller", "Novák",    "Østergaard", "Petit",  "Yılmaz", "Şahin",
-            "Иванов",  "Орлова",   "Смирнов", "김",     "이",       "박",         "최",     "정"};
-}
-
-QStringList firstNames()
-{
-    return {"Anna", "Bruno", "Chloë", "David", "Élise", "Frank", "Greta",
-            "Hugo", "İpek",  "Борис", "철수",  "영희",  "민준"};
-}
-
-QList<ContactImport> people(int count)
-{
-    const QStringList family = families(), first = firstNames();
-    QList<ContactImport> people;
-    for (int i = 0; i < count; ++i) {
-        ContactImport person;
-        person.contact.name = QString("%1 %2 %3%4")
-                                  .arg(family.at(i % family.size()), first.at(i / family.size() % first.size()))
-                                  .arg(QChar('A' + i % 23))
-                                  .arg(QChar('a' + i % 19));
-        const auto number
-            = [i](int kind) { return QString::number(10000000LL + (i * 7919LL + kind * 104729LL) % 90000000LL); };
-        person.contact.setNumbers({number(1), "0" + number(2), "+82" + number(3)},
-                                  {ContactData::Company, ContactData::Mobile, ContactData::Home});
-        people.append(person);
-    }
-    return people;
-}
+using namespace PhoneBench;
 
 /// The keys of one round: every letter of every word, and as many times Backspace.
 QStringList keys()
@@ -77,89 +31,23 @@ QStringList keys()
     return keys;
 }
 
-/// Sees the window's last paint of a frame.
-class FrameWatch : public QObject
-{
-public:
-    explicit FrameWatch(QWidget *window) { window->installEventFilter(this); }
-
-    bool painted = false;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        painted = painted || event->type() == QEvent::UpdateRequest;
-        return false;
-    }
-};
-
-/// The processor time of this thread, in microseconds.
-double busyTime()
-{
-    timespec now;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e6 + double(now.tv_nsec) / 1e3;
-}
-
-/// The value below which that share of all lies.
-double share(std::vector<double> values, double part)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(std::size_t(double(values.size()) * part));
-}
-
 /// Presses one key after the other, each timed until what it changed is painted.
 void type(benchmark::State &state, QWidget *window)
 {
     const QStringList round = keys();
-    std::vector<double> times, busyTimes;
+    Passes passes(state);
     FrameWatch frame(window);
     int next = 0;
     for (auto _ : state) {
         const QString letter = round.at(next++ % round.size());
         const int code = letter.isEmpty() ? int(Qt::Key_Backspace) : letter.at(0).toUpper().unicode();
-        frame.painted = false;
-        QElapsedTimer timer;
-        timer.start();
-        const double busyBefore = busyTime();
-        QWidget *focus = QApplication::focusWidget();
-        for (const QEvent::Type half : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(half, code, Qt::NoModifier, letter);
-            QCoreApplication::sendEvent(focus, &event);
-        }
-        QCoreApplication::sendPostedEvents();
-        while (!frame.painted)
-            QCoreApplication::processEvents();
-        const double seconds = double(timer.nsecsElapsed()) / 1e9;
-        state.SetIterationTime(seconds);
-        times.push_back(seconds * 1e6);
-        busyTimes.push_back(busyTime() - busyBefore);
+        const Stopwatch watch;
+        if (!pressKey(frame, code, letter))
+            state.SkipWithError("nothing was painted");
+        passes.add(watch);
         QCoreApplication::processEvents(); // what is put off until after the frame
     }
-    state.counters["median_us"] = share(times, 0.5);
-    state.counters["p99_us"] = share(times, 0.99);
-    state.counters["busy_p99_us"] = share(busyTimes, 0.99);
-}
-
-std::unique_ptr<TestPhone> phone;
-
-/// A phone with that many contacts, kept for the benchmarks that follow.
-TestPhone &phoneWith(int count)
-{
-    static int held = 0;
-    if (held == count)
-        return *phone;
-    phone.reset();
-    phone.reset(new TestPhone);
-    held = count;
-    phone->core.contactManager()->importContacts(people(count - count / MobileShare));
-    QStringList mobile;
-    const QList<ContactImport> others = people(count / MobileShare);
-    for (const ContactImport &other : others)
-        mobile.append(other.contact.name);
-    phone->connectMobile(mobile);
-    phone->core.wpsmContactManager()->readWpsmConfigFile();
-    return *phone;
+    passes.report();
 }
 
 void searchScreen(benchmark::State &state)
@@ -207,23 +95,13 @@ void proxyModel(benchmark::State &state)
 
 int main(int argc, char **argv)
 {
-    DisplaySetup::prepareEnvironment();
-    QApplication app(argc, argv);
-    DisplaySetup::prepareApplication();
-    TestScreen display;
-    const int round = keys().size();
-    const auto add = [](const char *name, void (*run)(benchmark::State &), int contacts, int passes) {
-        benchmark::RegisterBenchmark(name, run)->Arg(contacts)->Iterations(passes)->UseManualTime()->Unit(
-            benchmark::kMicrosecond);
-    };
-    for (const int count : {300, 10000, 100000}) {
-        add("search screen", searchScreen, count, (count > 10000 ? 5 : 40) * round);
-        // Of 100 000 the model takes a minute for some keys.
-        if (count <= 10000)
-            add("QSortFilterProxyModel in QListView", proxyModel, count, 5 * round);
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    phone.reset(); // needs the application
-    return 0;
+    return run(argc, argv, [] {
+        const int round = keys().size();
+        for (const int count : {300, 10000, 100000}) {
+            add("search/ours", searchScreen, count, (count > 10000 ? 5 : 20) * round);
+            // Of 100 000 the model takes a minute for some keys.
+            if (count <= 10000)
+                add("search/QSortFilterProxyModel", proxyModel, count, 2 * round);
+        }
+    });
 }

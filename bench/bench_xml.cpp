@@ -12,7 +12,7 @@
 #include <ctime>
 #include <map>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -178,16 +178,17 @@ void measure(benchmark::State &state, Reader read)
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(original.size()));
 }
 
-void sizes(benchmark::internal::Benchmark *benchmark)
+}
+
+int main(int argc, char **argv)
 {
-    benchmark->Arg(20)->Arg(1000)->Arg(20000)->Arg(200000)->UseManualTime();
+    const std::pair<const char *, Reader> readers[] = {
+        {"xml/ours", readOurs}, {"xml/pugixml", readPugi}, {"xml/RapidXML", readRapid}, {"xml/Expat", readExpat}};
+    for (const int items : {20, 1000, 20000, 200000}) {
+        for (const auto &[name, reader] : readers)
+            benchmark::RegisterBenchmark(name, measure, reader)->Arg(items)->UseManualTime();
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
 }
-
-}
-
-BENCHMARK_CAPTURE(measure, ours, readOurs)->Apply(sizes);
-BENCHMARK_CAPTURE(measure, pugixml, readPugi)->Apply(sizes);
-BENCHMARK_CAPTURE(measure, rapidxml, readRapid)->Apply(sizes);
-BENCHMARK_CAPTURE(measure, expat, readExpat)->Apply(sizes);
-
-BENCHMARK_MAIN();

@@ -1,9 +1,9 @@
 #include "demodirectory.h"
 
 #include "phonehome.h"
+#include "settingsfile.h"
 
 #include <QFile>
-#include <QSettings>
 
 static const char Mark[] = "Directory_svc/Demonstration";
 
@@ -20,18 +20,15 @@ DemoDirectory::DemoDirectory(const QString &text)
 
 void DemoDirectory::provision(const PhoneHome &home, bool isNew) const
 {
-    QSettings info(home.path("config/phone_info.conf"), QSettings::IniFormat);
-    if (!isNew && !info.value(Mark).toBool())
+    SettingsFile info(home.path("config/phone_info.conf"));
+    if (!isNew && !info.flag(Mark))
         return;
-    info.setValue(Mark, true);
-    info.setValue("Prov_Info/Id", m_id);
-    info.setValue("Directory_svc/Type", "http");
-    info.setValue("Directory_svc/Addr", m_address);
-    info.sync();
-    // The file keeps its rights, which are its user's alone.
-    QSettings secret(home.path("config/secret.ini"), QSettings::IniFormat);
-    secret.setValue("Prov/Password", m_password);
-    secret.sync();
-    if (info.status() != QSettings::NoError || secret.status() != QSettings::NoError)
-        qWarning("The demonstration directory cannot be written to %s", qPrintable(info.fileName()));
+    info.set(Mark, "true");
+    info.set("Prov_Info/Id", m_id);
+    info.set("Directory_svc/Type", "http");
+    info.set("Directory_svc/Addr", m_address);
+    SettingsFile secret(home.path("config/secret.ini"));
+    secret.set("Prov/Password", m_password);
+    if (secret.save())
+        info.save();
 }

@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace {
 
 // A card with a large photo stays far below this; what goes beyond is no card.
@@ -23,19 +25,35 @@ bool decodes(const QByteArray &bytes, const char *charset, QString *text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
+bool isAscii(const QByteArray &line)
+{
+    return std::all_of(line.begin(), line.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+}
+
 QByteArray inUtf8(const QByteArray &line)
 {
     QString text;
-    if (line.toUpper().contains("CHARSET=") || decodes(line, "UTF-8", &text))
+    if (isAscii(line) || line.toUpper().contains("CHARSET=") || decodes(line, "UTF-8", &text))
         return line;
     if (!decodes(line, "EUC-KR", &text))
         text = QString::fromLatin1(line);
     return text.toUtf8();
 }
 
+/// Whether the line begins with the name of a group, or of a property that has another plain form. Most lines do
+/// not.
+bool mayDiffer(const QByteArray &line)
+{
+    static const QByteArray nameLetters("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-");
+    const auto nameEnd
+        = std::find_if(line.begin(), line.end(), [](char letter) { return !nameLetters.contains(letter); });
+    const auto beginsWith = [&](const char *name) { return qstrnicmp(line.constData(), name, qstrlen(name)) == 0; };
+    return (nameEnd != line.end() && *nameEnd == '.') || beginsWith("PHOTO") || beginsWith("CATEGORIES");
+}
+
 QByteArray plainForm(const QByteArray &line, bool continued)
 {
-    if (continued || line.startsWith(' ') || line.startsWith('\t'))
+    if (continued || line.startsWith(' ') || line.startsWith('\t') || !mayDiffer(line))
         return inUtf8(line);
     static const QRegularExpression group(QStringLiteral("^[A-Za-z0-9-]+\\.(?=[A-Za-z-]+[:;])"));
     static const QRegularExpression dataAddress(QStringLiteral("^PHOTO[^:]*:data:image/([a-z]+)[^,]*;base64,"),

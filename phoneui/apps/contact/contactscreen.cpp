@@ -10,6 +10,7 @@
 #include "grouplist.h"
 #include "listviewcontactitem.h"
 #include "numberedit.h"
+#include "rowpainting.h"
 #include "screenwatch.h"
 #include "searchall.h"
 #include "searchdir.h"
@@ -162,7 +163,8 @@ QPixmap Contact::rowPicture(const ContactData &contact) const
 {
     const bool hasPhoto
         = contact.type == ContactData::LocalContact && !contact.picture.isEmpty() && QFile::exists(contact.picture);
-    return hasPhoto ? Thumbnail::load(contact.picture) : QPixmap(":/contact/images/number_img_default.png");
+    return hasPhoto ? Thumbnail::load(contact.picture)
+                    : RowPainting::picture(":/contact/images/number_img_default.png");
 }
 
 ListViewItem *Contact::makeCell(const ContactData &contact) const

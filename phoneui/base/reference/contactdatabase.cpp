@@ -2,6 +2,8 @@
 
 #include "groupdata.h"
 
+#include <malloc.h>
+
 #define CONTACT_COLUMNS "id, name, picture, email1, email2, email3, memo, bell, buddy_id, extra"
 
 namespace {
@@ -132,11 +134,14 @@ void ContactDatabase::refreshSearch()
     const int version = m_file.dataVersion();
     if (!m_search.needsReload(version))
         return;
+    m_search.clear();
     QList<ContactData> contacts;
-    if (readContacts(&contacts))
-        m_search.load(contacts, version);
-    else
-        m_search.clear();
+    if (!readContacts(&contacts))
+        return;
+    m_search.load(contacts, version);
+    // The search has texts of its own; the room of those just read would stay with the process.
+    contacts.clear();
+    ::malloc_trim(0);
 }
 
 int ContactDatabase::insert(const ContactData &contact)
@@ -176,8 +181,12 @@ bool ContactDatabase::insertNumbers(int contactId, const ContactData &contact)
 
 bool ContactDatabase::replaceMemberships(int contactId, const QList<int> &groupIds)
 {
-    if (!m_file.statement("DELETE FROM memberships WHERE contact_id = ?").run({contactId}))
-        return false;
+    return m_file.statement("DELETE FROM memberships WHERE contact_id = ?").run({contactId})
+        && insertMemberships(contactId, groupIds);
+}
+
+bool ContactDatabase::insertMemberships(int contactId, const QList<int> &groupIds)
+{
     QList<int> wanted = groupIds;
     if (wanted.isEmpty())
         wanted.append(GroupData::UnassignedId);

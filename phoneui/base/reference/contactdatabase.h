@@ -27,6 +27,8 @@ public:
     /// The contact's new id; 0 when it failed.
     int insert(const ContactData &contact);
     bool update(const ContactData &contact);
+    /// For a contact that is in no group, as a new one is.
+    bool insertMemberships(int contactId, const QList<int> &groupIds);
     bool replaceMemberships(int contactId, const QList<int> &groupIds);
     /// The id of the group of that name, which is made when there is none; 0 when it failed.
     int groupIdByName(const QString &name);

@@ -89,7 +89,7 @@ int ContactManager::saveContact(const ContactData &contact, bool modify)
         if (modify)
             return m_database->update(contact);
         id = m_database->insert(contact);
-        return id != 0 && m_database->replaceMemberships(id, {});
+        return id != 0 && m_database->insertMemberships(id, {});
     });
     return written ? id : 0;
 }
@@ -102,7 +102,7 @@ int ContactManager::importContacts(const QList<ContactImport> &contacts, const s
             for (const QString &group : contacts.at(i).groups)
                 groupIds.append(m_database->groupIdByName(group));
             const int id = m_database->insert(contacts.at(i).contact);
-            if (id == 0 || groupIds.contains(0) || !m_database->replaceMemberships(id, groupIds))
+            if (id == 0 || groupIds.contains(0) || !m_database->insertMemberships(id, groupIds))
                 return false;
             if (progress)
                 progress(i + 1);

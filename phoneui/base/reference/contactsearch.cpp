@@ -83,6 +83,7 @@ void ContactSearch::load(const QList<ContactData> &contacts, int dataVersion)
         m_contacts.append(contact);
         appendLine(contact);
     }
+    m_lines.squeeze();
     m_loaded = true;
     m_dataVersion = dataVersion;
 }

@@ -1,9 +1,9 @@
 #include "fetchsettings.h"
 
 #include "phonehome.h"
+#include "settingsfile.h"
 
 #include <QDir>
-#include <QSettings>
 #include <QSslCertificate>
 
 namespace {
@@ -11,9 +11,9 @@ namespace {
 constexpr int DefaultTimeLimit = 15000;
 constexpr int DefaultSizeLimit = 1024 * 1024; // twenty entries take some ten thousand
 
-int limit(const QSettings &settings, const char *key, int usual)
+int limit(const SettingsFile &settings, const char *key, int usual)
 {
-    const int value = settings.value(QLatin1String(key), usual).toInt();
+    const int value = settings.number(QLatin1String(key), usual);
     return value > 0 ? value : usual;
 }
 
@@ -21,8 +21,8 @@ int limit(const QSettings &settings, const char *key, int usual)
 
 FetchSettings FetchSettings::read(const PhoneHome &home)
 {
-    const QSettings settings(home.path(QStringLiteral("config/xcid.conf")), QSettings::IniFormat);
-    const QString authority = settings.value(QStringLiteral("Tls/Authority")).toString();
+    const SettingsFile settings(home.path(QStringLiteral("config/xcid.conf")));
+    const QString authority = settings.value(QStringLiteral("Tls/Authority"));
     return {limit(settings, "Limits/Time", DefaultTimeLimit), limit(settings, "Limits/Size", DefaultSizeLimit),
             authority.isEmpty() ? QString() : QDir(home.root()).absoluteFilePath(authority)};
 }

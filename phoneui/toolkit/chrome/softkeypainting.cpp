@@ -16,10 +16,10 @@ struct Colours
     QColor outline, body, empty, textUp, textDown;
 };
 
-Colours colours()
+Colours colours(bool dark)
 {
-    return SoftKeyPainting::isDarkDesign() ? Colours{grey, Qt::black, grey, Qt::white, Qt::black}
-                                           : Colours{Qt::black, Qt::white, Qt::white, Qt::black, Qt::white};
+    return dark ? Colours{grey, Qt::black, grey, Qt::white, Qt::black}
+                : Colours{Qt::black, Qt::white, Qt::white, Qt::black, Qt::white};
 }
 
 }
@@ -42,12 +42,13 @@ QFont fittedFont(QFont font, const QString &text, int widest)
 
 void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const QColor &body)
 {
-    const Colours c = colours();
+    const bool dark = isDarkDesign(); // read from the settings
+    const Colours c = colours(dark);
     const QColor fill = body.isValid() ? body : c.body;
     const QRect plate = key.adjusted(2, 0, -2, 0);
     if (down) {
         painter->fillRect(plate, c.outline);
-    } else if (isDarkDesign()) {
+    } else if (dark) {
         painter->fillRect(plate, empty ? c.empty : fill);
     } else if (empty) {
         painter->fillRect(plate, grey);
@@ -59,7 +60,7 @@ void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const
 
 QColor textColor(bool down)
 {
-    const Colours c = colours();
+    const Colours c = colours(isDarkDesign());
     return down ? c.textDown : c.textUp;
 }
 

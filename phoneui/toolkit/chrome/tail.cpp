@@ -60,10 +60,12 @@ void Tail::setFuncButtonText(int idx, QString const &text)
     TailButton *target = button(idx);
     if (!target)
         return;
-    target->setText(text);
-    target->update();
     if (idx == EraseButton)
         m_thirdText = text;
+    if (target->text() == text)
+        return; // set anew at each move of a selection; painting four keys costs more than the list
+    target->setText(text);
+    target->update();
 }
 
 QString Tail::funcButtonText(int idx)

@@ -1,12 +1,14 @@
 #include "focusframe.h"
 
+#include "rowpainting.h"
+
 #include <QPainter>
 #include <QRegion>
 
 static QPixmap corner(const char *name, FocusFrame::Look look)
 {
-    return QPixmap(QStringLiteral(":ui/images/widget/focus_02_") + QLatin1String(name)
-                   + QLatin1String(look == FocusFrame::Pressed ? "_sel.png" : ".png"));
+    return RowPainting::picture(QStringLiteral(":ui/images/widget/focus_02_") + QLatin1String(name)
+                                + QLatin1String(look == FocusFrame::Pressed ? "_sel.png" : ".png"));
 }
 
 FocusFrame::FocusFrame(Look look)

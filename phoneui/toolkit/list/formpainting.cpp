@@ -12,7 +12,7 @@ constexpr int PlateHeight = 30;
 
 QPixmap widgetPicture(const char *name)
 {
-    return QPixmap(QStringLiteral(":/ui/images/widget/%1.png").arg(QLatin1String(name)));
+    return RowPainting::picture(QStringLiteral(":/ui/images/widget/%1.png").arg(QLatin1String(name)));
 }
 
 }

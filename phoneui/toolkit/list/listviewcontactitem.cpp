@@ -13,8 +13,8 @@ bool isOfMobileDevice(int contactType)
 
 QPixmap mobileIcon(bool selected)
 {
-    return QPixmap(selected ? QStringLiteral(":/contact/images/menu_icon_mobile_press.png")
-                            : QStringLiteral(":/contact/images/menu_icon_mobile.png"));
+    return RowPainting::picture(selected ? QStringLiteral(":/contact/images/menu_icon_mobile_press.png")
+                                         : QStringLiteral(":/contact/images/menu_icon_mobile.png"));
 }
 
 }
@@ -34,7 +34,7 @@ int ListViewContactItem::type()
 
 void ListViewContactItem::setupNumberImage()
 {
-    m_images.setNormal(QPixmap(QStringLiteral(":/ui/images/number_img_default.png")));
+    m_images.setNormal(RowPainting::picture(QStringLiteral(":/ui/images/number_img_default.png")));
 }
 
 void ListViewContactItem::paint(QPainter *painter, QRect &rect)

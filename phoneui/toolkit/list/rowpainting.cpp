@@ -1,8 +1,17 @@
 #include "rowpainting.h"
 
 #include <QPainter>
+#include <QPixmapCache>
 
 namespace RowPainting {
+
+QPixmap picture(const QString &resource)
+{
+    QPixmap found;
+    if (!QPixmapCache::find(resource, &found) && found.load(resource))
+        QPixmapCache::insert(resource, found);
+    return found;
+}
 
 int centredTop(const QRect &rect, int height)
 {
@@ -21,7 +30,7 @@ void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &
 
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix)
 {
-    const auto slice = [&](const char *part) { return QPixmap(stem + QLatin1String(part) + suffix + ".png"); };
+    const auto slice = [&](const char *part) { return picture(stem + QLatin1String(part) + suffix + ".png"); };
     drawSlices(painter, rect, slice("_left"), slice("_mid"), slice("_right"));
 }
 

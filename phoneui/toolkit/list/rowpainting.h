@@ -11,6 +11,9 @@ class QPainter;
 /// What rows, boxes and fields draw alike.
 namespace RowPainting {
 
+/// A picture of the program's own resources, read once: Qt would ask for the file's time at every use.
+QPixmap picture(const QString &resource);
+
 /// The top at which something of that height stands in the vertical middle; an odd pixel goes below.
 int centredTop(const QRect &rect, int height);
 

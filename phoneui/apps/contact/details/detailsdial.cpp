@@ -13,6 +13,7 @@
 #include "numbertypes.h"
 #include "qcalllist.h"
 #include "ringtones.h"
+#include "rowpainting.h"
 #include "screenwatch.h"
 #include "settingsfile.h"
 #include "status.h"
@@ -88,7 +89,7 @@ ContactData DetailsDial::readContact(int id) const
 ListViewContactItem *DetailsDial::addRow(const QString &label, const QString &text, const QString &picture)
 {
     auto *row = new ListViewContactItem(text, label);
-    row->setPixmap(QPixmap(picture + ".png"), QPixmap(picture + "_press.png"));
+    row->setPixmap(RowPainting::picture(picture + ".png"), RowPainting::picture(picture + "_press.png"));
     m_listView->addItem(row);
     return row;
 }

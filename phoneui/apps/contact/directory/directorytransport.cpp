@@ -2,10 +2,10 @@
 
 #include "conffile.h"
 #include "message.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QHostAddress>
-#include <QSettings>
 #include <QUdpSocket>
 
 #include <array>
@@ -43,7 +43,7 @@ int getPortNumber(const QString &peer, const QString &key)
     QString file = getConfFilePath(QStringLiteral("COMMON"), QStringLiteral("IPC_CONF"));
     if (file.isEmpty())
         file = QLatin1String(DefaultIpcConf);
-    return QSettings(file, QSettings::IniFormat).value(peer.toUpper() + QLatin1Char('/') + key, 0).toInt();
+    return SettingsFile(file).number(peer.toUpper() + QLatin1Char('/') + key);
 }
 
 void sendUI2CMDirectoryServiceRequest(int line, const QString &mode, const QString &number)

@@ -3,9 +3,8 @@
 #include "conffile.h"
 #include "core.h"
 #include "directorytexts.h"
+#include "settingsfile.h"
 #include "textcodec.h"
-
-#include <QSettings>
 
 namespace {
 
@@ -21,23 +20,17 @@ struct Provisioning
     QString start() const;
 };
 
-QString text(const QSettings &settings, const char *key)
-{
-    // An unquoted comma makes a list of the value.
-    return settings.value(QLatin1String(key)).toStringList().join(QLatin1Char(','));
-}
-
 Provisioning readProvisioning()
 {
-    const QSettings settings(getConfFilePath(QStringLiteral("CONFIG"), QStringLiteral("PINFO_CONF")),
-                             QSettings::IniFormat);
-    const QSettings calls(QLatin1String(CallManagerState), QSettings::IniFormat);
-    const bool secondary = text(calls, "LINE_0/PROXY") == QLatin1String("SECONDARY");
-    return {text(settings, secondary ? "Directory_svc_SS/Addr" : "Directory_svc/Addr"),
-            text(settings, "Directory_svc/Type"),
-            text(settings, "Directory_svc/Port"),
-            text(settings, "Directory_svc/Path"),
-            text(settings, "Prov_Info/Id"),
+    const SettingsFile settings(getConfFilePath(QStringLiteral("CONFIG"), QStringLiteral("PINFO_CONF")));
+    const SettingsFile calls{QLatin1String(CallManagerState)};
+    const bool secondary = calls.value(QStringLiteral("LINE_0/PROXY")) == QLatin1String("SECONDARY");
+    const QString side = secondary ? QStringLiteral("Directory_svc_SS/Addr") : QStringLiteral("Directory_svc/Addr");
+    return {settings.value(side),
+            settings.value(QStringLiteral("Directory_svc/Type")),
+            settings.value(QStringLiteral("Directory_svc/Port")),
+            settings.value(QStringLiteral("Directory_svc/Path")),
+            settings.value(QStringLiteral("Prov_Info/Id")),
             theCore->getProvPassword()};
 }
 

@@ -9,6 +9,7 @@
 #include "messagebox.h"
 #include "notices.h"
 #include "numberedit.h"
+#include "rowpainting.h"
 #include "screenwatch.h"
 #include "status.h"
 #include "tail.h"
@@ -31,7 +32,7 @@ QPixmap pictureOf(const ContactData &contact)
 {
     const bool hasPhoto
         = contact.type == ContactData::LocalContact && !contact.picture.isEmpty() && QFile::exists(contact.picture);
-    return QPixmap(hasPhoto ? contact.picture : ":/contact/images/number_img_default.png");
+    return hasPhoto ? QPixmap(contact.picture) : RowPainting::picture(":/contact/images/number_img_default.png");
 }
 
 }
@@ -99,11 +100,12 @@ void GroupDetail::setupListViewItems(int groupId)
     }
     m_listView->itemClear();
     const QList<ContactData> rows = members(groupId);
-    for (const ContactData &contact : rows) {
+    m_listView->addItems(rows.size(), [rows](int i) {
+        const ContactData &contact = rows.at(i);
         auto *row = new ListViewContactListItem(contact.name, contact.id, contact.type);
         row->setPixmap(pictureOf(contact), QPixmap());
-        m_listView->addItem(row);
-    }
+        return row;
+    });
     m_listView->update();
 }
 

@@ -7,6 +7,7 @@
 #include "dialer.h"
 #include "phonekey.h"
 #include "rowpainting.h"
+#include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
 
@@ -15,7 +16,6 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
-#include <QSettings>
 
 #include <array>
 
@@ -31,8 +31,7 @@ constexpr int CallKey = 2; // during a call, the way back to it takes the place 
 
 bool hasDirectoryServer()
 {
-    const QSettings provisioning(getConfFilePath("CONFIG", "PINFO_CONF"), QSettings::IniFormat);
-    return !provisioning.value("Directory_svc/Addr").toString().isEmpty();
+    return !SettingsFile(getConfFilePath("CONFIG", "PINFO_CONF")).value("Directory_svc/Addr").isEmpty();
 }
 
 bool isOk(int key)

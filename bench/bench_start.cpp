@@ -1,0 +1,128 @@
+// The plug-in from dlopen to its first frame, beside an empty dialog; and what it adds to the process's memory.
+//
+// A library is loaded once in a process, so each pass is a process of its own: this program with a command.
+
+#include "baseappinterface.h"
+#include "phonebench.h"
+#include "pluginhost.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QProcess>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+using namespace PhoneBench;
+
+double residentBytes()
+{
+    QFile file("/proc/self/statm");
+    file.open(QIODevice::ReadOnly);
+    return file.readAll().split(' ').at(1).toDouble() * double(sysconf(_SC_PAGESIZE));
+}
+
+/// What a record is without any store: its fields and the characters of its texts.
+double recordBytes(const QList<ContactData> &contacts)
+{
+    int characters = 0;
+    for (const ContactData &contact : contacts) {
+        for (const QString *text : {&contact.name, &contact.picture, &contact.memo, &contact.bell, &contact.buddyId,
+                                    &contact.extra, &contact.email1, &contact.email2, &contact.email3})
+            characters += text->size();
+        for (int slot = 0; slot < ContactData::NumberCount; ++slot)
+            characters += contact.number(slot).size();
+    }
+    return double(contacts.size()) * double(sizeof(ContactData)) + 2.0 * characters;
+}
+
+void showFirstFrame(QWidget *window)
+{
+    FrameWatch frame(window);
+    window->show();
+    frame.waitForFrame();
+}
+
+/// One pass: prints both times and the bytes that came.
+int child(const QString &command, const QString &folder)
+{
+    const PhoneHome home(folder);
+    home.enter();
+    Core core(home);
+    Status status;
+    status.setGeometry(0, 0, 384, 26);
+    core.setStatusWidget(&status);
+    showFirstFrame(&status); // the bar stands long before an application starts
+
+    QDialog dialog;
+    dialog.setGeometry(0, 26, 384, 134);
+    PluginHost host;
+    const double before = residentBytes();
+    const Stopwatch watch;
+    if (command == "plugin") {
+        BaseAppInterface *app = host.load(QCoreApplication::applicationDirPath() + "/../bin/contact.so");
+        auto *window = dynamic_cast<QWidget *>(app);
+        if (!window)
+            return 1;
+        FrameWatch frame(window);
+        app->start(nullptr, nullptr);
+        frame.waitForFrame();
+    } else {
+        showFirstFrame(&dialog);
+    }
+    const double busy = watch.busy(), byClock = watch.byClock();
+    std::printf("%.9f %.9f %.0f\n", busy, byClock, residentBytes() - before);
+    return 0;
+}
+
+void measure(benchmark::State &state, const char *command, bool memory)
+{
+    const TestPhone &phone = phoneWith(int(state.range(0)));
+    Passes passes(state);
+    double bytes = 0;
+    for (auto _ : state) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QCoreApplication::applicationFilePath(), {command, phone.home.root()});
+        process.waitForFinished();
+        const QList<QByteArray> values = process.readAllStandardOutput().trimmed().split(' ');
+        if (process.exitCode() != 0 || values.size() != 3) {
+            state.SkipWithError("the process failed");
+            break;
+        }
+        passes.add(values.at(0).toDouble(), values.at(1).toDouble());
+        bytes += values.at(2).toDouble();
+    }
+    passes.report();
+    if (!memory)
+        return;
+    state.counters["added_bytes"] = bytes / double(state.iterations());
+    state.counters["record_bytes"] = recordBytes(phone.core.contactManager()->getAllContacts())
+        + recordBytes(phone.core.wpsmContactManager()->getAllContacts());
+}
+
+}
+
+int main(int argc, char **argv)
+{
+    const QString command = argc == 3 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (command == "plugin" || command == "dialog") {
+        DisplaySetup::prepareEnvironment();
+        QApplication app(argc, argv);
+        DisplaySetup::prepareApplication();
+        TestScreen display;
+        return child(command, QString::fromLocal8Bit(argv[2]));
+    }
+    return run(argc, argv, [] {
+        static constexpr int Processes = 15;
+        add(
+            "start/ours", [](auto &state) { measure(state, "plugin", false); }, 300, Processes);
+        add(
+            "start/QDialog", [](auto &state) { measure(state, "dialog", false); }, 300, Processes);
+        for (const int count : {300, 10000})
+            add(
+                "memory/ours", [](auto &state) { measure(state, "plugin", true); }, count, 3);
+    });
+}
