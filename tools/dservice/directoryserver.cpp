@@ -10,9 +10,6 @@
 #include <openssl/crypto.h>
 
 static constexpr int Threads = 16;
-/// In seconds: for a client that sends or reads no more, and for a connection that it keeps for later.
-static constexpr int TransferTime = 5;
-static constexpr int KeepTime = 2;
 static constexpr int UsualPageSize = 20;
 static constexpr int LargestPageSize = 100;
 static const char PageFolder[] = "/pages/";
@@ -47,14 +44,9 @@ static bool isSame(const QByteArray &left, const QByteArray &right)
 }
 
 DirectoryServer::DirectoryServer(const Company &company, const Setup &setup)
-    : m_company(company), m_setup(setup), m_answers(setup.answerLife), m_server(makeServer(setup))
+    : m_company(company), m_setup(setup), m_answers(setup.answerLife), m_server(makeServer(setup), Threads, 0)
 {
     setUp();
-}
-
-DirectoryServer::~DirectoryServer()
-{
-    stop();
 }
 
 bool DirectoryServer::isValid() const
@@ -64,17 +56,6 @@ bool DirectoryServer::isValid() const
 
 void DirectoryServer::setUp()
 {
-    // The library would let a second program of this user share the port.
-    m_server->set_socket_options([](socket_t socket) {
-        const int yes = 1;
-        setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    });
-    m_server->new_task_queue = [] { return new httplib::ThreadPool(Threads); };
-    m_server->set_tcp_nodelay(true);
-    m_server->set_read_timeout(TransferTime);
-    m_server->set_write_timeout(TransferTime);
-    m_server->set_keep_alive_timeout(KeepTime);
-    m_server->set_payload_max_length(0);
     m_server->set_default_headers({{"Cache-Control", "no-store"}});
 
     using httplib::Request;
@@ -90,28 +71,6 @@ void DirectoryServer::setUp()
                   [this](const Request &request, Response &response) { search(request, response); });
     m_server->Get(std::string(PageFolder) + "([0-9a-f]+)/([^/]+)",
                   [this](const Request &request, Response &response) { servePage(request, response); });
-}
-
-int DirectoryServer::bind(const QByteArray &address, int port)
-{
-    if (port == 0)
-        return m_server->bind_to_any_port(address.constData());
-    return m_server->bind_to_port(address.constData(), port) ? port : -1;
-}
-
-void DirectoryServer::start()
-{
-    m_thread = std::thread([this] { m_server->listen_after_bind(); });
-    while (!m_server->is_running())
-        std::this_thread::yield();
-}
-
-void DirectoryServer::stop()
-{
-    if (!m_thread.joinable())
-        return;
-    m_server->stop();
-    m_thread.join();
 }
 
 bool DirectoryServer::isUser(const httplib::Request &request) const

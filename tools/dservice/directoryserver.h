@@ -3,14 +3,13 @@
 
 #include "answershelf.h"
 #include "company.h"
+#include "httpservice.h"
 
 #include <QByteArray>
 
-#include <memory>
-#include <thread>
+#include <chrono>
 
 namespace httplib {
-class Server;
 struct Request;
 struct Response;
 }
@@ -28,14 +27,12 @@ public:
     };
 
     DirectoryServer(const Company &company, const Setup &setup);
-    ~DirectoryServer();
 
     /// False when the certificate or its key cannot be used.
     bool isValid() const;
     /// Listens there, on any free port for 0; the port, or -1 when it cannot.
-    int bind(const QByteArray &address, int port);
-    void start();
-    void stop();
+    int bind(const QByteArray &address, int port) { return m_server.bind(address, port); }
+    void start() { m_server.start(); }
 
 private:
     void setUp();
@@ -47,8 +44,7 @@ private:
     const Company m_company;
     const Setup m_setup;
     AnswerShelf m_answers;
-    std::unique_ptr<httplib::Server> m_server;
-    std::thread m_thread;
+    HttpService m_server; ///< the last: its threads use all the rest
 };
 
 #endif

@@ -1,6 +1,7 @@
 // The directory server: a company's people for the phones that search them.
 
 #include "directoryserver.h"
+#include "endsignals.h"
 #include "peoplefile.h"
 
 #include <QCommandLineParser>
@@ -8,9 +9,7 @@
 #include <QFile>
 #include <QTextCodec>
 
-#include <csignal>
 #include <cstdio>
-#include <pthread.h>
 
 static const char Description[]
     = "Serves a company's people to phones that search them, and prints the port as a line. Ends with Ctrl+C.\n\n"
@@ -24,17 +23,6 @@ static int complain(const QString &what)
 {
     std::fputs(QStringLiteral("dservice: %1\n").arg(what).toUtf8().constData(), stderr);
     return 2;
-}
-
-/// The signals that end the program are waited for in one place; no thread is interrupted by them.
-static sigset_t blockEndSignals()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&set, signal);
-    pthread_sigmask(SIG_BLOCK, &set, nullptr);
-    return set;
 }
 
 /// "-" has it come from the standard input, where nobody sees it who lists processes.
@@ -55,7 +43,7 @@ static int numberOf(const QString &text, int most)
 }
 
 static int serve(const PeopleFile &file, const DirectoryServer::Setup &setup, const QByteArray &address, int port,
-                 const sigset_t &endSignals)
+                 const EndSignals &endSignals)
 {
     DirectoryServer server(Company(file.people), setup);
     if (!server.isValid())
@@ -66,14 +54,13 @@ static int serve(const PeopleFile &file, const DirectoryServer::Setup &setup, co
     server.start();
     std::printf("%d\n", bound);
     std::fflush(stdout);
-    int signal = 0;
-    sigwait(&endSignals, &signal);
+    endSignals.wait();
     return 0;
 }
 
 int main(int argc, char **argv)
 {
-    const sigset_t endSignals = blockEndSignals();
+    const EndSignals endSignals;
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     const QCoreApplication app(argc, argv);
     QCommandLineParser parser;

@@ -1,3 +1,4 @@
+#include "endsignals.h"
 #include "phonefeed.h"
 #include "phonehome.h"
 #include "webserver.h"
@@ -6,9 +7,7 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
-#include <csignal>
 #include <cstdio>
-#include <pthread.h>
 
 /// Where the page is looked for first, and how many ports beyond that are tried.
 static constexpr int UsualPort = 8384;
@@ -18,17 +17,6 @@ static int complain(const QString &what)
 {
     std::fputs(QStringLiteral("phoneweb: %1\n").arg(what).toUtf8().constData(), stderr);
     return 2;
-}
-
-/// The signals that end the program are waited for in one place; no thread is interrupted by them.
-static sigset_t blockEndSignals()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&set, signal);
-    pthread_sigmask(SIG_BLOCK, &set, nullptr);
-    return set;
 }
 
 static bool bindUsualPort(WebServer &server)
@@ -41,7 +29,7 @@ static bool bindUsualPort(WebServer &server)
 }
 
 /// `port` is -1 for the usual one.
-static int serve(const PhoneHome &home, int port, const sigset_t &endSignals)
+static int serve(const PhoneHome &home, int port, const EndSignals &endSignals)
 {
     PhoneFeed feed(home);
     WebServer server(home, feed);
@@ -52,15 +40,14 @@ static int serve(const PhoneHome &home, int port, const sigset_t &endSignals)
     std::puts(server.address().constData());
     std::fflush(stdout);
 
-    int signal = 0;
-    sigwait(&endSignals, &signal);
+    endSignals.wait();
     server.stop();
     return 0;
 }
 
 int main(int argc, char **argv)
 {
-    const sigset_t endSignals = blockEndSignals();
+    const EndSignals endSignals;
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication app(argc, argv);
 

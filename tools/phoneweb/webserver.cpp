@@ -15,9 +15,6 @@ static const char Host[] = "127.0.0.1";
 /// Each viewer holds a thread; the rest serve pages and keys.
 static constexpr int MostViewers = 8;
 static constexpr int Threads = 24;
-/// In seconds: for a browser that sends or reads no more, and for a connection that it keeps for later.
-static constexpr int TransferTime = 5;
-static constexpr int KeepTime = 2;
 static constexpr size_t LargestPost = 65536;
 /// How often a stream without news looks whether its browser is still there, in milliseconds.
 static constexpr int ViewerLook = 1000;
@@ -85,7 +82,7 @@ static QList<QStringList> keyRequests(const std::string &body)
 }
 
 WebServer::WebServer(const PhoneHome &home, PhoneFeed &feed)
-    : m_home(home), m_feed(feed), m_server(new httplib::Server)
+    : m_home(home), m_feed(feed), m_server(std::make_unique<httplib::Server>(), Threads, LargestPost)
 {
     setUp();
 }
@@ -97,17 +94,6 @@ WebServer::~WebServer()
 
 void WebServer::setUp()
 {
-    // The library would let a second program of this user share the port.
-    m_server->set_socket_options([](socket_t socket) {
-        const int yes = 1;
-        setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    });
-    m_server->new_task_queue = [] { return new httplib::ThreadPool(Threads); };
-    m_server->set_tcp_nodelay(true);
-    m_server->set_read_timeout(TransferTime);
-    m_server->set_write_timeout(TransferTime);
-    m_server->set_keep_alive_timeout(KeepTime);
-    m_server->set_payload_max_length(LargestPost);
     m_server->set_default_headers({{"Cache-Control", "no-store"},
                                    {"Content-Security-Policy", ContentPolicy},
                                    {"Referrer-Policy", "no-referrer"},
@@ -135,27 +121,19 @@ void WebServer::setUp()
 
 bool WebServer::bind(int port)
 {
-    const int bound = port == 0 ? m_server->bind_to_any_port(Host) : m_server->bind_to_port(Host, port) ? port : -1;
+    const int bound = m_server.bind(Host, port);
     if (bound < 0)
         return false;
     m_access.reset(new Access(bound));
     return true;
 }
 
-void WebServer::start()
-{
-    m_thread = std::thread([this] { m_server->listen_after_bind(); });
-    while (!m_server->is_running())
-        std::this_thread::yield();
-}
-
 void WebServer::stop()
 {
-    if (!m_thread.joinable())
+    if (!m_server.isStarted())
         return;
-    m_feed.stop();
-    m_server->stop();
-    m_thread.join();
+    m_feed.stop(); // which lets go of the streams
+    m_server.stop();
 }
 
 bool WebServer::isAllowed(const httplib::Request &request) const

@@ -2,18 +2,17 @@
 #define WEBSERVER_H
 
 #include "access.h"
+#include "httpservice.h"
 #include "phonehome.h"
 
 #include <QScopedPointer>
 #include <QString>
 
 #include <atomic>
-#include <thread>
 
 class PhoneFeed;
 
 namespace httplib {
-class Server;
 struct Request;
 struct Response;
 }
@@ -28,7 +27,7 @@ public:
 
     /// Takes this port, or any free one for 0.
     bool bind(int port);
-    void start();
+    void start() { m_server.start(); }
     void stop();
 
     /// The address of the page, with the token; once `bind` has succeeded.
@@ -43,10 +42,9 @@ private:
 
     const PhoneHome m_home;
     PhoneFeed &m_feed;
-    QScopedPointer<httplib::Server> m_server;
     QScopedPointer<Access> m_access;
     std::atomic<int> m_viewers{0};
-    std::thread m_thread;
+    HttpService m_server; ///< the last: its threads use all the rest
 };
 
 #endif
