@@ -176,9 +176,7 @@ void Contact::clickedFuncKeyEvent(int idx)
         : theCore->wpsmContactManager()->getSpecificContactDetail(cell->getId());
     if (Neighbours::isInCall())
         return;
-    theCore->sendAppMsg("contact", "CloseContact()", QByteArray(""));
-    close();
-    Neighbours::dial(contact.telnum1, contact.name);
+    Neighbours::leaveAndDial(this, contact.telnum1, contact.name);
 }
 
 void Contact::tailFuncButtonClicked(int idx)

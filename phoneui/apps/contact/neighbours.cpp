@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QIODevice>
 #include <QTextCodec>
+#include <QWidget>
 
 namespace Neighbours {
 
@@ -45,6 +46,19 @@ void dial(const QString &number, const QString &name)
 {
     ToCMSocket::sendUI2CMSvcDialer(theCore->callManagerHandle(), "NORMAL", number, encodedName(name), getCallMode(),
                                    CallFromContacts, AnyLine);
+}
+
+void leaveAndDial(QWidget *screen, const QString &number, const QString &name)
+{
+    theCore->sendAppMsg("contact", "CloseContact()", QByteArray(""));
+    screen->close();
+    dial(number, name);
+}
+
+void handOver(const QString &name, const QString &number)
+{
+    for (const char *receiver : {"idle", "aom"})
+        send(receiver, "searchContactResult(str,str)", {name, number});
 }
 
 void writeMessage(const QString &number)

@@ -216,9 +216,7 @@ void DetailsDial::callAndLeave(const QString &number, const QString &name)
 {
     if (Neighbours::isInCall())
         return;
-    theCore->sendAppMsg("contact", "CloseContact()", QByteArray(""));
-    close();
-    Neighbours::dial(number, name);
+    Neighbours::leaveAndDial(this, number, name);
 }
 
 void DetailsDial::sendMessageByNumber()

@@ -140,9 +140,7 @@ QString DirectorySearchDetail::focusedNumber() const
 
 void DirectorySearchDetail::callByNumber()
 {
-    Neighbours::send("contact", "CloseContact()", {});
-    close();
-    Neighbours::dial(focusedNumber(), m_name);
+    Neighbours::leaveAndDial(this, focusedNumber(), m_name);
 }
 
 void DirectorySearchDetail::sendMesssageByNumber()

@@ -6,6 +6,7 @@
 #include "listview.h"
 #include "listviewsearchitem.h"
 #include "neighbours.h"
+#include "noresultlabel.h"
 #include "numberedit.h"
 #include "numbertypes.h"
 #include "screenwatch.h"
@@ -92,17 +93,9 @@ void SearchAll::setupTail()
 
 void SearchAll::setupNoSearchResult()
 {
-    static constexpr int TextHeight = 20; // pixels
-
-    m_noResultLabel = new QLabel(tr("No Result"), this);
+    m_noResultLabel = makeNoResultLabel(tr("No Result"), ListGeometry, this);
     m_noResultLabel->setObjectName("SearchAll::m_noResultLabel");
-    QFont font("1V_02_GO_UI");
-    font.setPixelSize(TextHeight);
-    m_noResultLabel->setFont(font);
-    m_noResultLabel->setAlignment(Qt::AlignCenter);
-    m_noResultLabel->setGeometry(ListGeometry);
     m_noResultLabel->setContentsMargins(0, 0, 0, BehindSoftKeys);
-    m_noResultLabel->hide();
 }
 
 void SearchAll::setupListView()
@@ -277,9 +270,7 @@ void SearchAll::pick(int idx)
         break;
     case ProgramKeyMode: {
         const ContactManager *store = theCore->contactManager();
-        const QStringList person{store->getContactName(id), store->getTelnum1_valByUsingId(id)};
-        Neighbours::send("idle", "searchContactResult(str,str)", person);
-        Neighbours::send("aom", "searchContactResult(str,str)", person);
+        Neighbours::handOver(store->getContactName(id), store->getTelnum1_valByUsingId(id));
         close();
         break;
     }

@@ -7,6 +7,7 @@
 #include "listview.h"
 #include "listviewdirectoryitem.h"
 #include "neighbours.h"
+#include "noresultlabel.h"
 #include "screenwatch.h"
 #include "status.h"
 #include "tail.h"
@@ -20,7 +21,6 @@ namespace {
 
 constexpr QRect ListGeometry(5, 2, 378, 105);
 constexpr int RowsPerPage = 3;
-constexpr int LabelPixelSize = 20;
 constexpr int ServerPage = 20; // results; every request asks for as many
 constexpr int LongestName = 13, KeptOfName = 10; // characters
 
@@ -64,13 +64,7 @@ SearchDirResult::~SearchDirResult() = default;
 
 void SearchDirResult::setupNoSearchResult()
 {
-    m_noResultLabel = new QLabel(tr("No Result"), this);
-    m_noResultLabel->setGeometry(ListGeometry);
-    m_noResultLabel->setAlignment(Qt::AlignCenter);
-    QFont phoneFont("1V_02_GO_UI");
-    phoneFont.setPixelSize(LabelPixelSize);
-    m_noResultLabel->setFont(phoneFont);
-    m_noResultLabel->hide();
+    m_noResultLabel = makeNoResultLabel(tr("No Result"), ListGeometry, this);
 }
 
 void SearchDirResult::setupListView()
@@ -194,13 +188,8 @@ ListViewDirectoryItem *SearchDirResult::selectedRow() const
 
 void SearchDirResult::callByNumber()
 {
-    ListViewDirectoryItem *row = selectedRow();
-    if (!row)
-        return;
-    const QString name = row->text(), number = row->getMidText();
-    Neighbours::send("contact", "CloseContact()", {});
-    close();
-    Neighbours::dial(number, name);
+    if (ListViewDirectoryItem *row = selectedRow())
+        Neighbours::leaveAndDial(this, row->getMidText(), row->text());
 }
 
 void SearchDirResult::sendMesssageByNumber()
@@ -215,8 +204,7 @@ void SearchDirResult::clickedListViewItem(int idx)
     if (!row)
         return;
     if (m_mode == ProgramKeyMode) {
-        for (const char *receiver : {"idle", "aom"})
-            Neighbours::send(receiver, "searchContactResult(str,str)", {row->text(), row->getMidText()});
+        Neighbours::handOver(row->text(), row->getMidText());
         Neighbours::send("contact", "CloseContact()", {});
         close();
     } else if (m_mode == MessageMode) {
