@@ -101,15 +101,11 @@ void XcidTest::faults_data()
     const auto row = [](const char *reason, const QByteArray &bytes) { QTest::newRow(reason) << bytes; };
     const QByteArray good = "HTTP/1.1 200 OK\r\n", away = "HTTP/1.1 302 Go\r\nContent-Length: 0\r\nLocation: ";
     row("failed: Connection refused", "");
-    row("failed: Connection closed", good + "Content-Length: 100\r\n\r\n<a>");
     row("Connection closed", good + "Transfer-Encoding: chunked\r\n\r\n9\r\n<a>");
-    row("it is empty", good + "Content-Length: 0\r\n\r\n");
     row("it answers 401", "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\nContent-Length: 1\r\n\r\nx");
     row("it answers 500", "HTTP/1.1 500 No\r\nContent-Length: 1\r\n\r\nx");
     row("it is packed", good + "Content-Encoding: gzip\r\nContent-Length: 1\r\n\r\nx");
-    row("it is longer than 1048576 bytes", good + "\r\n" + QByteArray(50000000, 'x'));
     row("it announces 50000000 bytes", good + "Content-Length: 50000000\r\n\r\n");
-    row("it takes too long", Drip);
     row("it leads from address to address", away + "/\r\n\r\n");
     row("it leads to an address that is none", away + "file:///etc/passwd\r\n\r\n");
 }
@@ -117,8 +113,6 @@ void XcidTest::faults_data()
 void XcidTest::faults()
 {
     QFETCH(QByteArray, bytes);
-    if (bytes == Drip)
-        m_phone->writeFile("config/xcid.conf", "[Limits]\nTime=700\n");
     EvilServer server(bytes);
     const QByteArray url = server.url("/page?key=secret");
     if (bytes.isEmpty())
@@ -127,7 +121,6 @@ void XcidTest::faults()
     QVERIFY(logs(QTest::currentDataTag()));
     QVERIFY2(!m_log.contains("secret"), m_log);
     // It still serves, and nothing came of the other.
-    m_phone->writeFile("config/xcid.conf", "");
     const EvilServer good(Good);
     ask(good.url());
     QCOMPARE(answer(), QByteArray("<a/>"));

@@ -9,10 +9,11 @@ stop_server() {
 }
 trap 'stop_server; finish' EXIT
 
-# serve TYPE OPTION...: starts the server and provisions the phone for it.
+# serve TYPE PROGRAM ARG...: starts a server that says its port, and provisions the phone for it.
 serve() {
+    stop_server
     : >"$work/port"
-    dservice --data "$work/people.csv" --port 0 --user me:secret "${@:2}" >"$work/port" &
+    "${@:2}" >"$work/port" &
     server=$!
     until [ -s "$work/port" ]; do sleep 0.05; done
     local port=$(<"$work/port") address=127.0.0.1
@@ -21,23 +22,23 @@ serve() {
         >"$PHONE_HOME/config/phone_info.conf"
 }
 
+directory=(dservice --data "$work/people.csv" --port 0 --user me:secret)
 mkdir -p "$PHONE_HOME/config"
 printf '[Prov]\nPassword=secret\n' >"$PHONE_HOME/config/secret.ini"
 echo name,number,type,position,department,mobile >"$work/people.csv"
 for i in $(seq -w 45); do echo "Person $i,50$i,Office,Clerk,Sales,070$i" >>"$work/people.csv"; done
 
-serve http
+serve http "${directory[@]}"
 start_phone --empty --platform offscreen
 phonectl run "$here/directory.keys"
 phonectl key Soft3 Esc
 stop_phone
 phonebook list | grep -q 'Anna.*5044.*5044' || fail "the saved numbers"
-stop_server
 
 openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=127.0.0.1 -addext subjectAltName=IP:127.0.0.1 \
     -keyout "$work/key.pem" -out "$PHONE_HOME/config/authority.pem" 2>/dev/null
 printf '[Tls]\nAuthority=config/authority.pem\n' >"$PHONE_HOME/config/xcid.conf"
-serve https --tls "$PHONE_HOME/config/authority.pem" "$work/key.pem"
+serve https "${directory[@]}" --tls "$PHONE_HOME/config/authority.pem" "$work/key.pem"
 start_phone --platform offscreen
 phonectl key Soft4 Soft1
 phonectl expect screen SearchDir
@@ -65,6 +66,20 @@ printf '[Prov]\nPassword=wrong\n' >"$PHONE_HOME/config/secret.ini"
 nothing_comes 1
 stop_server
 nothing_comes 2
+printf '[Limits]\nTime=1500\nSize=1000000\n' >"$PHONE_HOME/config/xcid.conf"
+fetches=2
+for fault in cut empty huge drip; do
+    serve http python3 "$here/evilserver.py" $fault
+    nothing_comes $((++fetches))
+done
+for reason in 'Connection closed' 'it is empty' 'it is longer than 1000000 bytes' 'it takes too long'; do
+    grep -q "The fetch of .*$reason" "$work/log" || fail "the log tells nothing of: $reason"
+done
+printf '[Prov]\nPassword=secret\n' >"$PHONE_HOME/config/secret.ini"
+serve http "${directory[@]}"
+phonectl key Soft4
+phonectl expect title "Directory Service | 1/3page"
+phonectl key Esc
 
 # Only a file of the phone's own is an answer. It is read and gone, and opens nothing once the form is left.
 respond() { phonectl send contact 'http2ui_directory_service_response(str,int)' "$1" 0; }
