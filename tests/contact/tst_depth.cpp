@@ -2,8 +2,10 @@
 
 #include "contactmanager.h"
 #include "contactscreen.h"
+#include "listview.h"
 #include "neighbours.h"
 #include "phonescript.h"
+#include "tail.h"
 #include "testcase.h"
 #include "testmain.h"
 #include "testphone.h"
@@ -33,6 +35,8 @@ private slots:
     void commandsInTheMiddle_data();
     void commandsInTheMiddle();
     void aScreenComesForwardWithWhatStandsOverIt();
+    void aNewLanguage_data();
+    void aNewLanguage();
     void payloads_data();
     void payloads();
 
@@ -45,6 +49,8 @@ private:
     }
     static QList<QPair<const char *, Road>> roads();
     void send(const QString &command);
+    PhoneScript walk(const Road &road);
+    QString lookAfter(const Road &road, const char *before, const char *there);
 
     std::unique_ptr<TestPhone> m_phone;
     std::unique_ptr<ContactScreen> m_screen;
@@ -157,20 +163,26 @@ void DepthTest::commandsInTheMiddle_data()
     }
 }
 
-void DepthTest::commandsInTheMiddle()
+PhoneScript DepthTest::walk(const Road &road)
 {
-    QFETCH(QString, command);
-    QFETCH(Road, road);
-    QFETCH(QString, left);
-    const auto nothing = [] { return !QApplication::activeWindow(); };
     PhoneScript script;
-    for (const auto &step : qAsConst(road)) {
+    for (const auto &step : road) {
         if (step.first > 0)
             script.keys({step.first});
         else
             script.call([=] { send(step.first == Directory ? "viewContactSearchDir(str)" : Response); });
         script.untilActive(step.second.toLatin1()).until("a moment to pass", pause());
     }
+    return script;
+}
+
+void DepthTest::commandsInTheMiddle()
+{
+    QFETCH(QString, command);
+    QFETCH(Road, road);
+    QFETCH(QString, left);
+    const auto nothing = [] { return !QApplication::activeWindow(); };
+    PhoneScript script = walk(road);
     QString title;
     script.call([&] {
         title = m_phone->status.title();
@@ -206,6 +218,54 @@ void DepthTest::aScreenComesForwardWithWhatStandsOverIt()
         .keys({Qt::Key_Escape})
         .until("everything to close", [] { return !QApplication::activeWindow(); });
     QCOMPARE(script.run(), QString());
+}
+
+void DepthTest::aNewLanguage_data()
+{
+    QTest::addColumn<Road>("road");
+    const auto all = roads();
+    for (const auto &road : all) {
+        const QString screen = road.second.last().second;
+        if (!screen.endsWith("Box") && !screen.endsWith("Popup")) // these keep their words until they are answered
+            QTest::newRow(road.first) << road.second;
+    }
+}
+
+/// The title, the soft keys and the rows at the end of the road.
+QString DepthTest::lookAfter(const Road &road, const char *before, const char *there)
+{
+    QString look;
+    m_phone->core.setLanguageName(before);
+    PhoneScript script = walk(road);
+    script.call([&] { m_phone->core.setLanguageName(there); })
+        .until("a moment to pass", pause())
+        .call([&] {
+            QWidget *screen = QApplication::activeWindow();
+            QStringList words{m_phone->status.title()};
+            for (int i = 0; i < Tail::ButtonCount; ++i)
+                words.append(screen->findChild<Tail *>()->funcButtonText(i));
+            const QList<ListView *> lists = screen->findChildren<ListView *>();
+            for (ListView *list : lists) {
+                QImage picture(list->size(), QImage::Format_RGB32);
+                list->render(&picture, {}, {}, QWidget::DrawWindowBackground); // no line edit: its cursor blinks
+                words.append(QString::number(qHashBits(picture.constBits(), picture.sizeInBytes())));
+            }
+            look = words.join('|');
+            send("CloseContact()");
+        })
+        .until("everything to close", [] { return !QApplication::activeWindow(); });
+    const QString fault = script.run();
+    m_screen->open();
+    return fault.isEmpty() ? look : fault;
+}
+
+/// A screen that shows while the language changes looks as if it had been opened in the new one.
+void DepthTest::aNewLanguage()
+{
+    QFETCH(Road, road);
+    const QString there = lookAfter(road, "en_US", "de_DE"), fresh = lookAfter(road, "de_DE", "de_DE");
+    QCOMPARE(there, fresh);
+    QVERIFY(fresh != lookAfter(road, "en_US", "en_US"));
 }
 
 void DepthTest::payloads_data()

@@ -31,6 +31,8 @@ BaseWidget::BaseWidget(QWidget *parent)
 
 void BaseWidget::setupStatus() { }
 
+void BaseWidget::retranslate() { }
+
 void BaseWidget::bringUp()
 {
     if (isVisible() && isActiveWindow())
@@ -71,6 +73,10 @@ bool BaseWidget::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate) {
         setupStatus();
+    } else if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        if (isActiveWindow())
+            setupStatus();
     } else if (event->type() == QEvent::Hide) {
         ++m_hideCount;
         closeOwnedWindows();

@@ -45,6 +45,9 @@ protected:
     void bringUp();
     /// Puts the screen's title and state on the status bar.
     virtual void setupStatus();
+    /// Puts the words of a new language in the place of those that show, the soft keys' above all: their handlers
+    /// know them by their words. What a person has typed stays.
+    virtual void retranslate();
 
     QPointer<Status> status; ///< the phone's one status bar, not owned
     Tail *tail = nullptr;

@@ -157,6 +157,12 @@ void DetailsDial::setupTail()
         tail->setFuncButtonText(i, labels.at(i));
 }
 
+void DetailsDial::retranslate()
+{
+    setupListViewItems(m_contactId);
+    setupTail();
+}
+
 void DetailsDial::showEvent(QShowEvent *) { }
 
 void DetailsDial::hideEvent(QHideEvent *)

@@ -55,6 +55,7 @@ public slots:
     void startTimer();
 
 protected:
+    void retranslate() override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

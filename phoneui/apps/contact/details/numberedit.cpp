@@ -42,10 +42,13 @@ NumberEdit::NumberEdit(QWidget *parent, int id, QString number, int groupId)
     m_focusTimer.setSingleShot(true);
     m_focusTimer.setInterval(PreviewDelay);
     connect(&m_focusTimer, &QTimer::timeout, this, &NumberEdit::focusChangeTimeout);
+    m_words = words();
     readRingToneList();
     if (groupId != -1)
         m_groupIds = {groupId};
     setupTail();
+    connect(tail, &Tail::clicked, this, &NumberEdit::tailFuncButtonClicked);
+    connect(tail, &Tail::longPress, this, &NumberEdit::tailFuncButtonLongPressed);
     setupListView();
     if (m_isModify) {
         setupCurrentInfo(id);
@@ -74,8 +77,23 @@ void NumberEdit::setupTail()
     tail->setFuncButtonText(1, QString());
     tail->setFuncButtonText(DeleteFieldKey, QString());
     tail->setFuncButtonText(SaveKey, tr("Save"));
-    connect(tail, &Tail::clicked, this, &NumberEdit::tailFuncButtonClicked);
-    connect(tail, &Tail::longPress, this, &NumberEdit::tailFuncButtonLongPressed);
+}
+
+void NumberEdit::retranslate()
+{
+    setupTail();
+    const QStringList before = m_words;
+    m_words = words();
+    for (int i = 0; i < m_listView->itemSize(); ++i) {
+        ListViewItem *row = m_listView->item(i);
+        row->setText(m_words.value(before.indexOf(row->text()), row->text()));
+        if (fieldOf(i) == BellField)
+            static_cast<NumberEditSelectItem *>(row)->setSelectedText(bellName());
+    }
+    showGroups();
+    readRingToneList();
+    updateFieldKey(m_listView->selectedIdx());
+    m_listView->update();
 }
 
 void NumberEdit::setupListView()
@@ -112,7 +130,7 @@ void NumberEdit::setGroupList(QList<GroupData> groups)
     m_groupIds.clear();
     for (const GroupData &group : qAsConst(groups))
         m_groupIds.append(group.id);
-    m_groupItem->setSelectedText(groupNames(m_groupIds, tr("Unassigned")));
+    showGroups();
     m_listView->update();
 }
 

@@ -68,6 +68,7 @@ public slots:
     void focusChangeTimeout();
 
 protected:
+    void retranslate() override;
     void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -93,6 +94,10 @@ private:
     int chooseNumberKind(int current);
     bool isRemovable(int idx) const;
     bool isEmptyField(int idx) const;
+
+    QString bellName() const;
+    QStringList words() const;
+    void showGroups();
 
     void chooseGroups();
     void chooseKindOfRow(int idx);
@@ -125,6 +130,7 @@ private:
     QString m_bell; ///< path of the chosen ring tone
     QList<QFileInfo> m_ringFiles;
     QStringList m_ringNames; ///< as shown, the entry for no bell first
+    QStringList m_words; ///< those of the rows, in the language in which they show
     QString m_previewPath;
     QTimer m_focusTimer;
 };

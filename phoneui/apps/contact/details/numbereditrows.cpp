@@ -90,8 +90,26 @@ ListViewItem *NumberEdit::makeNumberRow(int kind, const QString &number) const
 
 NumberEditSelectItem *NumberEdit::makeBellRow() const
 {
-    return new NumberEditSelectItem(tr("Bell"),
-                                    m_bell.isEmpty() ? tr("Undesignated") : RingTones::baseName(m_bell));
+    return new NumberEditSelectItem(tr("Bell"), bellName());
+}
+
+QString NumberEdit::bellName() const
+{
+    return m_bell.isEmpty() ? tr("Undesignated") : RingTones::baseName(m_bell);
+}
+
+void NumberEdit::showGroups()
+{
+    m_groupItem->setSelectedText(groupNames(m_groupIds, tr("Unassigned")));
+}
+
+/// What the rows are called.
+QStringList NumberEdit::words() const
+{
+    QStringList words{tr("Name"), tr("Group"), tr("Email"), tr("Bell"), tr("Memo")};
+    for (int kind = ContactData::Company; kind <= ContactData::Etc; ++kind)
+        words.append(getNumberTypeStr(kind));
+    return words;
 }
 
 void NumberEdit::setupCurrentInfo(int id)

@@ -73,6 +73,8 @@ GroupAdd::GroupAdd(QWidget *parent, int groupId) : BaseWidget(parent), m_groupId
     m_previewTimer->setInterval(1);
     connect(m_previewTimer, &QTimer::timeout, this, &GroupAdd::focusChangeTimeout);
     setupTail();
+    connect(tail, &Tail::clicked, this, &GroupAdd::tailFuncButtonClicked);
+    connect(tail, &Tail::longPress, this, &GroupAdd::tailFuncButtonLongPressed);
     setupListView();
     if (m_groupId != -1)
         setupCurrentInfo(m_groupId);
@@ -98,8 +100,18 @@ void GroupAdd::setupTail()
     for (int i = 0; i < SaveKey; ++i)
         tail->setFuncButtonText(i, QString());
     tail->setFuncButtonText(SaveKey, tr("Save"));
-    connect(tail, &Tail::clicked, this, &GroupAdd::tailFuncButtonClicked);
-    connect(tail, &Tail::longPress, this, &GroupAdd::tailFuncButtonLongPressed);
+}
+
+void GroupAdd::retranslate()
+{
+    setupTail();
+    m_nameItem->setText(tr("Group Name"));
+    m_bellItem->setText(tr("Group Bell"));
+    const bool hasNoBell = m_bellItem->selectedText() == m_ringFiles.first().baseName();
+    readRingToneList();
+    if (hasNoBell)
+        m_bellItem->setSelectedText(m_ringFiles.first().baseName());
+    m_listView->update();
 }
 
 void GroupAdd::setupListView()

@@ -46,6 +46,7 @@ public slots:
     void focusChangeTimeout();
 
 protected:
+    void retranslate() override;
     void hideEvent(QHideEvent *event) override;
 
 private:

@@ -123,6 +123,12 @@ void GroupDetail::setupTail()
     tail->update();
 }
 
+void GroupDetail::retranslate()
+{
+    m_noContactsLabel->setText(tr("No contacts"));
+    setupTail();
+}
+
 void GroupDetail::refresh()
 {
     setupStatus();

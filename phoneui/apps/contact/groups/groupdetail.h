@@ -42,6 +42,7 @@ public slots:
     void clickedListViewItem(int idx);
 
 protected:
+    void retranslate() override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

@@ -49,6 +49,13 @@ void GroupList::setupTail()
     tail->setFuncButtonText(EditKey, QString());
 }
 
+void GroupList::retranslate()
+{
+    setupTail();
+    setupListViewItems();
+    focusChangedListViewItem(m_listView->selectedIdx());
+}
+
 void GroupList::setupListView()
 {
     m_listView = new ListView(this);

@@ -40,6 +40,7 @@ public slots:
     void moveListItemByStr(QString name);
 
 protected:
+    void retranslate() override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

@@ -29,6 +29,7 @@ GroupList_At_Contact::GroupList_At_Contact(QWidget *parent, QList<int> selectedI
     setObjectName("GroupList_At_Contact");
     GroupList_At_Contact::setupStatus();
     setupTail();
+    connect(tail, &Tail::clicked, this, &GroupList_At_Contact::tailFuncButtonClicked);
     setupListView();
     setupListViewItems();
     setSelectedGroups(selectedIds);
@@ -47,7 +48,13 @@ void GroupList_At_Contact::setupTail()
     tail->setFuncButtonText(1, QString());
     tail->setFuncButtonText(2, QString());
     tail->setFuncButtonText(DoneKey, tr("Done"));
-    connect(tail, &Tail::clicked, this, &GroupList_At_Contact::tailFuncButtonClicked);
+}
+
+void GroupList_At_Contact::retranslate()
+{
+    setupTail();
+    rowOfGroup(GroupData::UnassignedId)->setText(tr("Unassigned"));
+    m_listView->update();
 }
 
 void GroupList_At_Contact::setupListView()

@@ -36,6 +36,9 @@ public slots:
     void tailFuncButtonClicked(int idx);
     void clickedListViewItem(int idx);
 
+protected:
+    void retranslate() override;
+
 private:
     ListViewCheckGroupItem *row(int idx) const;
     ListViewCheckGroupItem *rowOfGroup(int id) const;

@@ -34,6 +34,7 @@ DirectorySearchDetail::DirectorySearchDetail(QWidget *parent, QList<DirectoryDat
     setObjectName("DirectorySearchDetail");
     DirectorySearchDetail::setupStatus();
     setupTail();
+    connect(tail, &Tail::clicked, this, &DirectorySearchDetail::tailFuncButtonClicked);
     setupListView();
     setupListViewItems(fields);
 }
@@ -52,7 +53,6 @@ void DirectorySearchDetail::setupTail()
     tail->setFuncButtonText(CallKey, tr("Call"));
     tail->setFuncButtonText(MessageKey, tr("Message"));
     tail->setFuncButtonText(3, QString());
-    connect(tail, &Tail::clicked, this, &DirectorySearchDetail::tailFuncButtonClicked);
 }
 
 void DirectorySearchDetail::setupListView()
@@ -66,13 +66,25 @@ void DirectorySearchDetail::setupListView()
     m_listView->setFocus(Qt::OtherFocusReason);
 }
 
+std::array<QString, DirectorySearchDetail::RowCount> DirectorySearchDetail::titles()
+{
+    return {tr("Name"), tr("Number"), tr("Type"), tr("Position"), tr("Department"), tr("Mobile")};
+}
+
+void DirectorySearchDetail::retranslate()
+{
+    for (int row = 0; row < RowCount; ++row)
+        m_rows[row]->setText(titles().at(row));
+    setupTail();
+    focusChangedListViewItem(m_focusedRow);
+    m_listView->update();
+}
+
 void DirectorySearchDetail::setupListViewItems(QList<DirectoryData> fields)
 {
-    const std::array<QString, RowCount> titles{tr("Name"),     tr("Number"),     tr("Type"),
-                                               tr("Position"), tr("Department"), tr("Mobile")};
     m_listView->itemClear();
     for (int row = 0; row < RowCount; ++row) {
-        m_rows[row] = new ListViewInfoItem(titles[row], QString());
+        m_rows[row] = new ListViewInfoItem(titles().at(row), QString());
         m_listView->addItem(m_rows[row]);
     }
     for (const DirectoryData &field : qAsConst(fields))

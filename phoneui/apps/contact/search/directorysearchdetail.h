@@ -41,9 +41,13 @@ public slots:
     void clickedListViewItem(int idx);
     void focusChangedListViewItem(int row);
 
+protected:
+    void retranslate() override;
+
 private:
     enum Row { NameRow, NumberRow, TypeRow, PositionRow, DepartmentRow, MobileRow, RowCount };
 
+    static std::array<QString, RowCount> titles();
     void fillRow(const DirectoryData &field);
     QString focusedNumber() const;
     void askWhereToSave();

@@ -91,6 +91,12 @@ void SearchAll::setupTail()
     connect(tail, &Tail::longPress, this, &SearchAll::tailFuncButtonLongPressed);
 }
 
+void SearchAll::retranslate()
+{
+    m_noResultLabel->setText(tr("No Result"));
+    tail->setFuncButtonText(CallKey, m_listView->hasFocus() ? tr("Call") : QString());
+}
+
 void SearchAll::setupNoSearchResult()
 {
     m_noResultLabel = makeNoResultLabel(tr("No Result"), ListGeometry, this);

@@ -65,6 +65,7 @@ public slots:
     void selectedItem(int idx);
 
 protected:
+    void retranslate() override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 

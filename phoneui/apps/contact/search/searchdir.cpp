@@ -32,6 +32,7 @@ constexpr int ShortestName = 2, ShortestNumber = 3; // characters, blanks around
 constexpr int FirstPage = 1;
 constexpr int MethodRow = 0;
 constexpr int MethodFuncKey = Qt::Key_F7; // stands beside the row
+enum PopupRow { NumberRow = 0, NameRow = 1 };
 constexpr int MethodPopup = 2; // the form's mark for its popup
 constexpr int SettleTime = 100, RepaintTime = 150; // ms from when the form shows
 
@@ -50,6 +51,8 @@ SearchDir::SearchDir(QWidget *parent, QString word) : BaseWidget(parent)
     setFont(QFont("1V_02_GO_UI", 20));
     SearchDir::setupStatus();
     setupTail();
+    connect(tail, &Tail::clicked, this, &SearchDir::tailFuncButtonClicked);
+    connect(tail, &Tail::longPress, this, &SearchDir::tailFuncButtonLongPressed);
     setupListView();
     setupSearchLine();
     setSearchWord(word);
@@ -74,8 +77,13 @@ void SearchDir::setupTail()
     for (int key = 0; key < SearchKey; ++key)
         tail->setFuncButtonText(key, QString());
     tail->setFuncButtonText(SearchKey, tr("Search"));
-    connect(tail, &Tail::clicked, this, &SearchDir::tailFuncButtonClicked);
-    connect(tail, &Tail::longPress, this, &SearchDir::tailFuncButtonLongPressed);
+}
+
+void SearchDir::retranslate()
+{
+    setupTail();
+    m_methodItem->setText(tr("Search Type"));
+    setMethod(m_method);
 }
 
 void SearchDir::setupListView()
@@ -126,10 +134,14 @@ QString SearchDir::getSearchWord()
 
 int SearchDir::getSearchMethod()
 {
-    const QString method = m_methodItem->selectedText();
-    if (method == tr("Name"))
-        return NameMethod;
-    return method == tr("Number") ? NumberMethod : UnknownMethod;
+    return m_method;
+}
+
+void SearchDir::setMethod(int method)
+{
+    m_method = method;
+    m_methodItem->setSelectedText(method == NameMethod ? tr("Name") : tr("Number"));
+    m_listView->update();
 }
 
 /// False when the word was too short, which the user has been told.
@@ -209,12 +221,9 @@ void SearchDir::fillPopup()
     m_popup->cancelButton()->setText(tr("Cancel"));
     SelectPopupListView *list = m_popup->listView();
     list->itemClear();
-    for (const QString &method : {tr("Number"), tr("Name")}) {
-        const bool isPresent = method == m_methodItem->selectedText();
-        list->addItem(new ListViewRadioItem(method, isPresent));
-        if (isPresent)
-            list->setSelectedIdx(list->itemSize() - 1);
-    }
+    list->addItem(new ListViewRadioItem(tr("Number"), m_method == NumberMethod));
+    list->addItem(new ListViewRadioItem(tr("Name"), m_method == NameMethod));
+    list->setSelectedIdx(m_method == NumberMethod ? NumberRow : NameRow);
 }
 
 void SearchDir::clickedListViewItem(int idx)
@@ -226,10 +235,7 @@ void SearchDir::clickedListViewItem(int idx)
     const bool accepted = m_popup->exec() == QDialog::Accepted;
     if (watch.closed() || !accepted)
         return;
-    ListViewItem *chosen = m_popup->listView()->item(m_popup->selectedIdx());
-    if (!chosen)
-        return;
-    m_methodItem->setSelectedText(chosen->text());
+    setMethod(m_popup->selectedIdx() == NumberRow ? NumberMethod : NameMethod);
     changeIMEStatus();
     update();
     m_listView->setSelectedIdx(-1);

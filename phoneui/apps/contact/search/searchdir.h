@@ -21,7 +21,7 @@ class SearchDir : public BaseWidget
 
 public:
     /// What the keyword is.
-    enum Method { NameMethod = 0, NumberMethod = 1, UnknownMethod = -1 };
+    enum Method { NameMethod = 0, NumberMethod = 1 };
 
     SearchDir(QWidget *parent, QString word);
     ~SearchDir() override;
@@ -50,6 +50,7 @@ public slots:
     void selectedItem(int idx);
 
 protected:
+    void retranslate() override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -60,11 +61,13 @@ private:
     bool isLongEnough(const QString &word, int method);
     void focusSearchLine();
     void fillPopup();
+    void setMethod(int method);
 
     ListView *m_listView = nullptr;
     SearchLineEdit *m_searchLineEdit = nullptr;
     ListViewSelectItem *m_methodItem = nullptr; ///< owned by the list
     SearchDirResult *m_result = nullptr; ///< made at the first answer and kept
+    int m_method = NameMethod;
     int m_mode = 0; ///< of the result screen
     SelectPopup *m_popup = nullptr; ///< made on first use and kept
     bool m_enterPressed = false;

@@ -140,6 +140,12 @@ void SearchDirResult::showNoResult()
     tail->setFuncButtonText(MessageKey, QString());
 }
 
+void SearchDirResult::retranslate()
+{
+    m_noResultLabel->setText(tr("No Result"));
+    setupTail();
+}
+
 void SearchDirResult::setupListViewItems(QList<QList<DirectoryData>> results)
 {
     m_listView->itemClear();

@@ -50,6 +50,7 @@ public slots:
     void selectedItem(int idx);
 
 protected:
+    void retranslate() override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;

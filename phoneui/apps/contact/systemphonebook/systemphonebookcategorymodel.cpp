@@ -115,7 +115,8 @@ QString SystemPhonebookCategoryModel::getCategoryName(int row, bool withCount) c
     const SystemPhonebookCategory *found = m_categories.value(getCategoryNameByIndex(row));
     if (!found)
         return QString();
-    return withCount ? QString("%1 (%2)").arg(found->name, QString::number(found->count)) : found->name;
+    const QString name = shownName(getCategoryNameByIndex(row)); // in the language of now
+    return withCount ? QString("%1 (%2)").arg(name, QString::number(found->count)) : name;
 }
 
 QVariant SystemPhonebookCategoryModel::data(const QModelIndex &index, int role) const

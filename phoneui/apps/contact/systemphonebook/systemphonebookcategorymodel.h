@@ -19,7 +19,7 @@ class SystemPhonebookCategoryModel : public QAbstractListModel
 public:
     struct SystemPhonebookCategory
     {
-        QString name; ///< as it is shown
+        QString name; ///< as it was shown when the file was read
         int count = 0;
     };
 

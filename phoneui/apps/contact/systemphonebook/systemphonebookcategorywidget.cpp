@@ -33,6 +33,12 @@ void SystemPhonebookCategoryWidget::setupTail()
     setupPageKeys();
 }
 
+void SystemPhonebookCategoryWidget::retranslate()
+{
+    setupTail();
+    m_view->update();
+}
+
 void SystemPhonebookCategoryWidget::closeWindows()
 {
     closeScreen(m_listWidget);

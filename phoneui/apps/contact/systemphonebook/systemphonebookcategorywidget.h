@@ -23,6 +23,9 @@ public slots:
     void selectKeyPressed(int row);
     void tailFuncButtonClicked(int id);
 
+protected:
+    void retranslate() override;
+
 private:
     QPointer<SystemPhonebookListWidget> m_listWidget;
 };

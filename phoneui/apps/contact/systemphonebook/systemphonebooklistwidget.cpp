@@ -12,22 +12,23 @@
 enum SoftKey { GroupsKey = 0, CallKey = 1 };
 
 SystemPhonebookListWidget::SystemPhonebookListWidget(QString category, QWidget *parent, Qt::WindowFlags flags)
-    : SystemPhonebookWidget(parent, flags)
+    : SystemPhonebookWidget(parent, flags), m_category(category)
 {
     setupView("SystemPhonebookListWidget::mView");
     setModel(new SystemPhonebookDataModel(category, this));
-    if (category == SystemPhonebook::allKey())
-        m_categoryText = tr("All");
-    else if (category == SystemPhonebook::unassignedKey())
-        m_categoryText = tr("Unassigned");
-    else
-        m_categoryText = category;
-
     connect(m_view, &ListView::clicked, this, &SystemPhonebookListWidget::selectKeyPressed);
     connect(m_view, &ListView::focusChanged, this, &SystemPhonebookListWidget::updateStatus);
     connect(tail, &Tail::clicked, this, &SystemPhonebookListWidget::tailFuncButtonClicked);
     updateStatus();
     setupTail();
+}
+
+/// The category as the title shows it.
+QString SystemPhonebookListWidget::categoryText() const
+{
+    if (m_category == SystemPhonebook::allKey())
+        return tr("All");
+    return m_category == SystemPhonebook::unassignedKey() ? tr("Unassigned") : m_category;
 }
 
 QString SystemPhonebookListWidget::getIndexNumber(int row)
@@ -38,7 +39,7 @@ QString SystemPhonebookListWidget::getIndexNumber(int row)
 void SystemPhonebookListWidget::updateStatus()
 {
     if (status)
-        status->setTitle(tr("System Phonebook") + " | " + m_categoryText
+        status->setTitle(tr("System Phonebook") + " | " + categoryText()
                          + getIndexNumber(m_view->currentIndex().row()));
 }
 
@@ -53,6 +54,12 @@ void SystemPhonebookListWidget::setupTail()
     tail->setFuncButtonText(GroupsKey, hasRows ? tr("Groups") : QString());
     tail->setFuncButtonText(CallKey, hasRows ? tr("Call") : QString());
     setupPageKeys();
+}
+
+void SystemPhonebookListWidget::retranslate()
+{
+    setupTail();
+    m_view->update(); // entries may show the name of their category
 }
 
 void SystemPhonebookListWidget::closeWindows()

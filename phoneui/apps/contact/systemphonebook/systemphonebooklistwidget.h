@@ -28,10 +28,14 @@ public slots:
     void selectKeyPressed(int row);
     void tailFuncButtonClicked(int id);
 
+protected:
+    void retranslate() override;
+
 private:
     void openCategories();
+    QString categoryText() const;
 
-    QString m_categoryText; ///< as the title shows it
+    QString m_category;
     QPointer<SystemPhonebookCategoryWidget> m_categoryWidget;
 };
 
