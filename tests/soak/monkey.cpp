@@ -116,6 +116,7 @@ int main(int argc, char **argv)
         qFatal("%s cannot be written", qPrintable(parser.value("record")));
     MonkeyRun(source, record).run();
     std::fclose(record);
-    std::printf("all well; event loops up to %d deep\n", MonkeyRun::deepestLoop());
+    std::printf("all well; event loops up to %d deep, the longest turn %s\n", MonkeyRun::deepestLoop(),
+                qPrintable(MonkeyRun::longestStall()));
     return 0;
 }

@@ -24,6 +24,8 @@ static constexpr int StallLimit = 30; // s without a turn of any event loop
 static constexpr int OddityLimit = 2500; // ms, more than a notice stands
 
 int MonkeyRun::s_deepestLoop = 0;
+qint64 MonkeyRun::s_longestStall = 0;
+MonkeyEvent MonkeyRun::s_beforeStall;
 
 void MonkeyRun::fail(const QString &fault)
 {
@@ -75,9 +77,15 @@ MonkeyRun::~MonkeyRun()
 void MonkeyRun::run()
 {
     m_sinceEvent.start();
+    m_sinceTurn.start();
     m_timer.start(0);
     QApplication::exec();
     alarm(0);
+}
+
+QString MonkeyRun::longestStall()
+{
+    return QString("%1 ms after %2").arg(s_longestStall).arg(QString::fromUtf8(s_beforeStall));
 }
 
 /// Nothing that runs an event loop happens in here: the timer would not come again before it ended.
@@ -90,6 +98,11 @@ void MonkeyRun::step()
 {
     alarm(StallLimit);
     s_deepestLoop = qMax(s_deepestLoop, QThread::currentThread()->loopLevel());
+    const qint64 pause = m_sinceTurn.isValid() ? m_sinceTurn.restart() : 0;
+    if (pause > s_longestStall) {
+        s_longestStall = pause;
+        s_beforeStall = m_last;
+    }
     if (m_sinceEvent.elapsed() < (m_count % 3 == 0 ? 1 : 0) || PhoneKey::pending())
         return;
     const QString odd = oddity();
@@ -113,6 +126,7 @@ void MonkeyRun::step()
         m_isOver = true;
         event = "close";
     }
+    m_last = event;
     std::fprintf(m_record, "%s\n", event.constData());
     std::fflush(m_record);
     ++m_count;

@@ -32,6 +32,8 @@ public:
     void run();
 
     static int deepestLoop() { return s_deepestLoop; }
+    /// The longest time between two turns of the event loop, in milliseconds, and the event before it.
+    static QString longestStall();
 
 private:
     /// What an event begins and the following turns finish.
@@ -58,6 +60,8 @@ private:
     static void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
     static int s_deepestLoop;
+    static qint64 s_longestStall; ///< ms
+    static MonkeyEvent s_beforeStall;
 
     const Source m_source;
     std::FILE *m_record;
@@ -66,7 +70,8 @@ private:
     std::unique_ptr<Contact> m_contacts;
     std::vector<std::unique_ptr<QObject>> m_neighbours;
     QTimer m_timer;
-    QElapsedTimer m_sinceEvent, m_odd, m_task;
+    QElapsedTimer m_sinceEvent, m_sinceTurn, m_odd, m_task;
+    MonkeyEvent m_last;
     Task m_doing = Task::None;
     int m_taskTime = 0; ///< ms
     int m_count = 0;
