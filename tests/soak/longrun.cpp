@@ -102,7 +102,8 @@ public:
 private:
     bool round(PhoneScript script)
     {
-        const QString fault = script.run();
+        static constexpr int Pace = 1; // ms
+        const QString fault = script.run(Pace);
         if (!fault.isEmpty())
             std::fprintf(stderr, "fault: %s\n", qPrintable(fault));
         return fault.isEmpty();

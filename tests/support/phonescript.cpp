@@ -83,7 +83,7 @@ static void closeAll()
     }
 }
 
-QString PhoneScript::run()
+QString PhoneScript::run(int pace)
 {
     static constexpr int Limit = 3000; // ms for one expectation
     QString fault;
@@ -106,9 +106,9 @@ QString PhoneScript::run()
         if (step.action)
             step.action();
     });
-    timer.start(4);
+    timer.start(pace);
     if (!QTest::qWaitFor([&] { return m_steps.isEmpty() || !fault.isEmpty(); }, 60000) && fault.isEmpty())
         fault = "the script never ended";
-    QTest::qWait(20);
+    QTest::qWait(5 * pace);
     return fault;
 }
