@@ -26,13 +26,13 @@ class DoorsTest : public TestCase
 {
     Q_OBJECT
 
-    void setUp() override;
+    void setUp() override { m_phone.reset(new TestPhone); }
     void tearDown() override;
 
 private slots:
     void runFolder_data();
     void runFolder();
-    void sockets_data() { kinds({"link", "folder"}); }
+    void sockets_data() { kinds({"link", "pipe"}); }
     void sockets();
     void secretsAreClosedAgain();
     void filesAtFixedPlaces_data() { kinds({"link", "somebody else's", "pipe"}); }
@@ -50,6 +50,7 @@ private:
         for (const char *name : names)
             QTest::newRow(name) << name;
     }
+    static bool needsRoot() { return QByteArray(QTest::currentDataTag()).contains("somebody") && ::geteuid() != 0; }
     /// Puts something of this row's kind there; links lead to the victim.
     void plant(const QString &path);
     QByteArray content(const QString &path) const
@@ -67,13 +68,6 @@ private:
     std::unique_ptr<TestPhone> m_phone;
     QStringList m_planted;
 };
-
-void DoorsTest::setUp()
-{
-    m_phone.reset(new TestPhone);
-    if (QByteArray(QTest::currentDataTag()).contains("somebody") && ::geteuid() != 0)
-        QSKIP("only root can give something away");
-}
 
 void DoorsTest::tearDown()
 {
@@ -112,6 +106,8 @@ void DoorsTest::runFolder_data()
 
 void DoorsTest::runFolder()
 {
+    if (needsRoot())
+        QSKIP("only root can give something away");
     QFETCH(QString, kind);
     const PhoneHome home(m_phone->home.path("other"));
     QVERIFY(home.create());
@@ -131,17 +127,14 @@ void DoorsTest::runFolder()
 void DoorsTest::sockets()
 {
     const PhoneHome &home = m_phone->home;
-    for (const QString &path : {home.controlSocket(), home.peerSocket()}) {
-        plant(path);
-        const bool isLink = QByteArray(QTest::currentDataTag()) == "link";
-        ControlServer control({});
-        PeerServer peers;
-        if (!isLink)
-            expectWarning("socket .* cannot be made");
-        QCOMPARE(path == home.peerSocket() ? peers.listen(path) : control.listen(path), isLink);
-        QVERIFY(!isLink || (mode(path) & 0077) == 0);
-        QVERIFY(content(victim()).contains("PROXY"));
-    }
+    plant(home.controlSocket());
+    plant(home.peerSocket());
+    ControlServer control({});
+    PeerServer peers;
+    QVERIFY(control.listen(home.controlSocket()) && peers.listen(home.peerSocket()));
+    QCOMPARE(mode(home.controlSocket()) & 0077, 0);
+    QCOMPARE(mode(home.peerSocket()) & 0077, 0);
+    QVERIFY(content(victim()).contains("PROXY"));
 }
 
 void DoorsTest::secretsAreClosedAgain()
@@ -154,6 +147,8 @@ void DoorsTest::secretsAreClosedAgain()
 
 void DoorsTest::filesAtFixedPlaces()
 {
+    if (needsRoot())
+        QSKIP("only root can give something away");
     m_phone->writeFile("config/phone_info.conf",
                        "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=first\n[Directory_svc_SS]\nAddr=second\n");
     m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=p\n");
@@ -172,6 +167,8 @@ void DoorsTest::filesAtFixedPlaces()
 
 void DoorsTest::thumbnails()
 {
+    if (needsRoot())
+        QSKIP("only root can give something away");
     QFETCH(QString, kind);
     const QString photo = m_phone->home.photoFolder() + '/' + kind + ".png";
     QImage image(64, 64, QImage::Format_RGB32);
@@ -230,19 +227,17 @@ void DoorsTest::answersThatAreExchanged()
             ::unlink(other);
         }
     });
-    int taken = 0;
     QByteArrayList contents;
     for (int i = 0; i < 2000; ++i) {
         m_phone->writeFile("run/fresh", "<a/>");
         ::rename(m_phone->home.path("run/fresh").toUtf8(), name);
         const AnswerFile file(m_phone->home, answer);
-        taken += file.isOpen() ? 1 : 0;
         if (file.isOpen())
             contents.append(content(file.path()));
     }
     isOver = true;
     rival.join();
-    QCOMPARE(contents.count("<a/>"), taken);
+    QCOMPARE(contents.count("<a/>"), contents.size());
     QCOMPARE(content(victim()), QByteArray("secret"));
 }
 

@@ -45,18 +45,12 @@ void PeerDoorsTest::floods()
     QVERIFY(logs("further datagrams were dropped"));
     QVERIFY2(m_log.count('\n') < 100, m_log);
 
-    QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    connect(&server, &QTcpServer::newConnection, &server, [&server] {
-        QTcpSocket *client = server.nextPendingConnection();
-        client->write("HTTP/1.1 200 OK\r\n\r\n<a/>");
-        client->disconnectFromHost();
-    });
+    // It still does what it is told, be it in vain.
     if (peer == "cm")
         sendUI2CMDirectoryServiceRequest(-1, "NEW_CALL", "7");
     else
-        sendUI2HTTPDirectorySearchRequest(QString("http://127.0.0.1:%1/").arg(server.serverPort()));
-    QTRY_VERIFY(!m_app->heard.isEmpty());
+        sendUI2HTTPDirectorySearchRequest("http://127.0.0.1:1/");
+    QTRY_VERIFY(peer == "cm" ? !m_app->heard.isEmpty() : logs("failed: Connection refused"));
 }
 
 QByteArray PeerDoorsTest::ofAllProcesses(const QString &file)
