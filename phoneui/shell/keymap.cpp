@@ -22,9 +22,10 @@ static const char defaultMap[] = "; PC key = phone key\n"
                                  "Alt+*=Star\nAlt+#=Hash\n"
                                  "PgUp=VolumeUp\nPgDown=VolumeDown\nEnd=VolumeMute\n";
 
-static int keyCode(int key, Qt::KeyboardModifiers modifiers)
+/// A key with its modifiers, but for those that tell where on the keyboard it lies.
+static int keyCode(int key)
 {
-    return key | int(modifiers & ~Qt::KeyboardModifiers(Qt::KeypadModifier | Qt::GroupSwitchModifier));
+    return key & ~int(Qt::KeypadModifier | Qt::GroupSwitchModifier);
 }
 
 KeyMap::KeyMap(const QString &path, QObject *parent) : QObject(parent)
@@ -51,15 +52,16 @@ void KeyMap::load(const QString &path)
             continue;
         }
         m_names.insert(pcKey, phoneName);
-        m_codes.insert(sequence[0], code);
+        m_codes.insert(keyCode(sequence[0]), code);
     }
 }
 
 int KeyMap::phoneKey(const QKeyEvent *event) const
 {
-    const int exact = m_codes.value(keyCode(event->key(), event->modifiers()));
+    const int pressed = keyCode(event->key() | int(event->modifiers()));
+    const int exact = m_codes.value(pressed);
     // Signs such as the star need Shift on many keyboards.
-    return exact ? exact : m_codes.value(keyCode(event->key(), event->modifiers() & ~Qt::ShiftModifier));
+    return exact ? exact : m_codes.value(pressed & ~int(Qt::ShiftModifier));
 }
 
 bool KeyMap::eventFilter(QObject *watched, QEvent *event)

@@ -71,6 +71,7 @@ void TestMessage::limits()
     QVERIFY(bytes({"A", "f(int)", {QByteArray("1")}}).isEmpty());
     QVERIFY(bytes({"A", "f(int)", {}}).isEmpty());
     QVERIFY(bytes({QByteArray("A\0B", 3), "f()", {}}).isEmpty());
+    QVERIFY(bytes({"A", "f(str)", {QByteArray("a\0b", 3)}}).isEmpty());
 }
 
 void TestMessage::broken()

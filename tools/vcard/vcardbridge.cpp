@@ -55,7 +55,8 @@ QString escaped(const QString &text)
 
 QString unescaped(const QString &text)
 {
-    return QString::fromUtf8(QByteArray::fromPercentEncoding(text.toLatin1()));
+    const QByteArray bytes = QByteArray::fromPercentEncoding(text.toLatin1());
+    return QString::fromUtf8(bytes.constData(), bytes.size()); // with what comes after a NUL
 }
 
 QString joined(const QStringList &texts)
@@ -101,12 +102,12 @@ void setNumbersText(ContactImport &entry, const QString &text)
 {
     entry.contact.setNumbers({}, {});
     const QStringList numbers = split(text);
-    for (const QString &number : numbers) {
-        const QStringList parts = number.split(QLatin1Char(':'));
+    for (const QString &slot : numbers) {
+        const QStringList parts = slot.split(QLatin1Char(':'));
         const int type = parts.value(1).toInt();
-        if (parts.size() == 3 && type >= ContactData::Company && type <= ContactData::Etc)
-            entry.contact.setNumber(parts.at(0).toInt() - 1, ContactData::bareNumber(parts.at(2)),
-                                    static_cast<ContactData::Telnum_Type>(type));
+        const QString number = ContactData::bareNumber(parts.value(2));
+        if (parts.size() == 3 && !number.isEmpty() && type >= ContactData::Company && type <= ContactData::Etc)
+            entry.contact.setNumber(parts.at(0).toInt() - 1, number, static_cast<ContactData::Telnum_Type>(type));
     }
 }
 

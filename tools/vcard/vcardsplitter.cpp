@@ -71,6 +71,48 @@ QByteArray plainForm(const QByteArray &line, bool continued)
     return text.toLatin1();
 }
 
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+/// Where a text ends when blanks and line ends do not count.
+int trimmedSize(const QByteArray &text)
+{
+    int size = text.size();
+    while (size > 0 && isBlank(text.at(size - 1)))
+        --size;
+    return size;
+}
+
+/// Whether the last property of a card is written in quoted-printable. It may go on over several lines.
+bool endsQuoted(const QByteArray &card)
+{
+    const QList<QByteArray> lines = card.split('\n');
+    int i = lines.size() - 1;
+    while (i > 0
+           && (lines.at(i).isEmpty() || isBlank(lines.at(i).at(0)) || lines.at(i - 1).trimmed().endsWith('=')))
+        --i;
+    return lines.at(i).toUpper().contains("QUOTED-PRINTABLE");
+}
+
+/// The parser takes the line behind a soft line break into the value, and never comes back if that is the end of
+/// the card. So nothing that looks like one may stand there.
+void closeLastValue(QByteArray *card)
+{
+    int size = trimmedSize(*card);
+    if (size == 0 || card->at(size - 1) != '=')
+        return;
+    if (endsQuoted(*card)) {
+        while (size > 0 && (card->at(size - 1) == '=' || isBlank(card->at(size - 1))))
+            --size;
+        card->truncate(size);
+        *card += "\r\n";
+    } else {
+        *card += "X-END:\r\n";
+    }
+}
+
 bool opensInnerCard(const QByteArray &line)
 {
     return line.left(5).toUpper() == "AGENT" && line.trimmed().endsWith(':');
@@ -129,9 +171,12 @@ bool VCardSplitter::next(VCardText *card)
         }
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
+        const bool isEnd = isLine(line, "END:VCARD");
+        if (isEnd)
+            closeLastValue(&card->text);
         if (card->text.size() < LargestCard)
             card->text += plainForm(line, former.endsWith('=')) + "\r\n";
-        if (isLine(line, "END:VCARD")) {
+        if (isEnd) {
             if (card->text.size() >= LargestCard)
                 card->problem = QStringLiteral("too large");
             return true;

@@ -8,7 +8,7 @@
 
 /// The wire between the phone's processes: the address text ("CM/UI": to the call manager, from the user
 /// interface), NUL, the signature ("name(int,str)"), NUL, then per argument an `int` as 4 bytes big-endian or a
-/// `str` as a 2-byte big-endian length and its bytes.
+/// `str` as a 2-byte big-endian length and its bytes, none of them NUL.
 
 /// Writes the message into `buffer` and returns its length in bytes; 0 when it does not fit, when the signature
 /// is no signature, or when a text is null. Further arguments by the signature: `int`, or `const char *`.

@@ -8,11 +8,11 @@
 class SettingsFile
 {
 public:
-    /// `Shared` is a folder in which anybody may put something: a link and a file of another user are not read, and
-    /// saving puts a file of our own in their place or fails.
+    /// `Shared` is a folder in which anybody may put something: a link and a file of another user, root apart, are
+    /// not read, and saving puts a file of our own in their place or fails.
     enum Place { Private, Shared };
 
-    /// A file that is missing or cannot be read has no keys.
+    /// A file that is missing has no keys, and neither has one that is not read, with the reason in the log.
     explicit SettingsFile(const QString &path, Place place = Private);
 
     /// Keys have their section in front, "Settings/Language".

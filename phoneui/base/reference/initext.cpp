@@ -259,14 +259,15 @@ bool isPlain(QChar ch)
     return ch.unicode() < 0x80 && (ch.isLetterOrNumber() || ch == '_' || ch == '-' || ch == '.');
 }
 
-/// The twin of `plainKey`.
+/// The twin of `plainKey`. A backslash at the end would take the "=" behind it along.
 QByteArray escapedKey(const QString &key)
 {
     QByteArray text;
-    for (const QChar ch : key) {
+    for (int i = 0; i < key.size(); ++i) {
+        const QChar ch = key.at(i);
         if (isPlain(ch))
             text += ch.toLatin1();
-        else if (ch == '/')
+        else if (ch == '/' && i < key.size() - 1)
             text += '\\';
         else if (ch.unicode() < 0x100)
             text += '%' + QByteArray::number(ch.unicode(), 16).rightJustified(2, '0');
@@ -299,16 +300,24 @@ QByteArray escapedValue(const QString &value)
 
 }
 
+/// The twin of `sectionPrefix`: keys without a section stand in "General", so that a section of this name is
+/// another.
+static QByteArray escapedSection(const QString &section)
+{
+    const bool isGeneral = section.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0;
+    return isGeneral ? '%' + section.toLatin1() : escapedKey(section);
+}
+
 QByteArray IniText::write(const QMap<QString, QString> &values)
 {
-    QMap<QString, QByteArray> sections;
+    QMap<QByteArray, QByteArray> sections;
     for (auto it = values.begin(); it != values.end(); ++it) {
         const int slash = it.key().indexOf('/');
-        const QString section = slash < 0 ? QStringLiteral("General") : it.key().left(slash);
+        const QByteArray section = slash < 0 ? QByteArray("General") : escapedSection(it.key().left(slash));
         sections[section] += escapedKey(it.key().mid(slash + 1)) + '=' + escapedValue(it.value()) + '\n';
     }
     QByteArray text;
     for (auto it = sections.begin(); it != sections.end(); ++it)
-        text += (text.isEmpty() ? "[" : "\n[") + escapedKey(it.key()) + "]\n" + it.value();
+        text += (text.isEmpty() ? "[" : "\n[") + it.key() + "]\n" + it.value();
     return text;
 }

@@ -36,7 +36,7 @@ bool appendArgument(QByteArray &out, const QByteArray &kind, const QVariant &val
     if (value.userType() != QMetaType::QByteArray)
         return false;
     const QByteArray text = value.toByteArray();
-    if (text.size() > LongestText)
+    if (text.size() > LongestText || text.contains('\0'))
         return false;
     appendNumber<quint16>(out, static_cast<quint16>(text.size()));
     out += text;
@@ -86,7 +86,7 @@ public:
             return true;
         }
         quint16 size = 0;
-        if (!takeNumber(&size) || left() < size)
+        if (!takeNumber(&size) || left() < size || std::memchr(m_at, '\0', size))
             return false;
         *value = QByteArray(m_at, size);
         m_at += size;

@@ -8,11 +8,14 @@
 #include <QStandardPaths>
 
 #include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-constexpr std::array<const char *, 8> Folders
-    = {"config", "data", "data/photos", "mobile", "ringtones", "ringtones/basicring", "ringtones/download", "run"};
+constexpr std::array<const char *, 7> Folders
+    = {"config", "data", "data/photos", "mobile", "ringtones", "ringtones/basicring", "ringtones/download"};
 
 constexpr QFile::Permissions UserOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions Everyone = UserOnly | QFile::ReadGroup | QFile::ReadOther;
@@ -40,11 +43,29 @@ const std::array<ConfigFile, 7> ConfigFiles = {{
 bool makeFile(const QString &path, const ConfigFile &config)
 {
     QFile file(path);
-    if (file.exists())
+    if (file.exists()) {
+        if (config.permissions == UserOnly && !file.setPermissions(UserOnly))
+            qWarning() << "PhoneHome: cannot close the file to others:" << path;
         return true;
+    }
     // The rights come before the content.
     return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.setPermissions(config.permissions)
         && file.write(config.content) >= 0 && file.flush();
+}
+
+/// Makes the folder for the user alone, or takes the one that is there if it is really the user's own: whoever owns
+/// it could put sockets of theirs in the place of the phone's.
+bool makeOwnFolder(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    ::mkdir(name.constData(), S_IRWXU);
+    const int folder = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    struct stat info;
+    const bool isOwn = folder >= 0 && ::fstat(folder, &info) == 0 && info.st_uid == ::geteuid()
+        && ::fchmod(folder, S_IRWXU) == 0;
+    if (folder >= 0)
+        ::close(folder);
+    return isOwn;
 }
 
 }
@@ -81,8 +102,13 @@ bool PhoneHome::create() const
             return false;
         }
     }
-    if (!QFile::setPermissions(runFolder(), UserOnly | QFile::ExeOwner)) {
-        qWarning() << "PhoneHome: cannot close the folder to others:" << runFolder();
+    // People's names and numbers concern nobody else.
+    for (const char *folder : {"data", "mobile"}) {
+        if (!QFile::setPermissions(path(QLatin1String(folder)), UserOnly | QFile::ExeOwner))
+            qWarning() << "PhoneHome: cannot close the folder to others:" << path(QLatin1String(folder));
+    }
+    if (!makeOwnFolder(runFolder())) {
+        qWarning() << "PhoneHome: this is no folder of the user alone:" << runFolder();
         return false;
     }
     for (const ConfigFile &config : ConfigFiles) {

@@ -14,20 +14,33 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+/// What is wrong with an open file, or null. Root can put anything anywhere, so a file of root's is as good as
+/// ours.
+static const char *faultOf(int handle, SettingsFile::Place place)
+{
+    struct stat info;
+    if (::fstat(handle, &info) != 0 || !S_ISREG(info.st_mode))
+        return "it is no plain file";
+    if (place == SettingsFile::Shared && info.st_uid != ::geteuid() && info.st_uid != 0)
+        return "it is somebody else's";
+    return nullptr;
+}
+
 SettingsFile::SettingsFile(const QString &path, Place place) : m_path(path)
 {
+    // A pipe must not hold the phone up.
     const int handle = ::open(QFile::encodeName(path).constData(),
                               O_RDONLY | O_CLOEXEC | O_NONBLOCK | (place == Shared ? O_NOFOLLOW : 0));
-    struct stat info;
-    if (handle < 0)
+    if (handle < 0 && (errno == ENOENT || errno == ENOTDIR))
         return;
-    const bool isTrusted
-        = ::fstat(handle, &info) == 0 && S_ISREG(info.st_mode) && (place == Private || info.st_uid == ::geteuid());
+    const char *fault = handle < 0 ? std::strerror(errno) : faultOf(handle, place);
     QFile file;
-    if (!isTrusted)
-        ::close(handle);
+    if (fault)
+        qWarning() << "SettingsFile: not read:" << path << fault;
     else if (file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         IniText::read(file.readAll(), [this](const QString &key, const QString &value) { m_values[key] = value; });
+    if (fault && handle >= 0)
+        ::close(handle);
 }
 
 int SettingsFile::number(const QString &key, int fallback) const

@@ -6,11 +6,16 @@
 #include <QNetworkDatagram>
 
 static constexpr int LongestDatagram = 4096;
+static constexpr int MostAtOnce = 64; // then timers and processes have their turn
+static constexpr int MostDropLines = 10; // a second
 
 RequestSocket::RequestSocket(const QByteArray &address, const Handlers &handlers, QObject *parent)
     : QObject(parent), m_address(address), m_handlers(handlers)
 {
     connect(&m_socket, &QUdpSocket::readyRead, this, &RequestSocket::readDatagrams);
+    m_dropTimer.setSingleShot(true);
+    m_dropTimer.setInterval(1000);
+    connect(&m_dropTimer, &QTimer::timeout, this, &RequestSocket::tellDropped);
 }
 
 bool RequestSocket::listen(quint16 port)
@@ -20,10 +25,27 @@ bool RequestSocket::listen(quint16 port)
 
 void RequestSocket::readDatagrams()
 {
-    while (m_socket.hasPendingDatagrams()) {
+    // What is left makes the socket ready again.
+    for (int i = 0; i < MostAtOnce && m_socket.hasPendingDatagrams(); ++i) {
         if (const char *fault = act(m_socket.receiveDatagram().data()))
-            qWarning("A datagram was dropped: %s", fault);
+            drop(fault);
     }
+}
+
+void RequestSocket::drop(const char *fault)
+{
+    if (!m_dropTimer.isActive()) {
+        m_dropped = 0;
+        m_dropTimer.start();
+    }
+    if (++m_dropped <= MostDropLines)
+        qWarning("A datagram was dropped: %s", fault);
+}
+
+void RequestSocket::tellDropped()
+{
+    if (m_dropped > MostDropLines)
+        qWarning("%d further datagrams were dropped", m_dropped - MostDropLines);
 }
 
 const char *RequestSocket::act(const QByteArray &datagram) const

@@ -2,6 +2,7 @@
 #define REQUESTSOCKET_H
 
 #include <QObject>
+#include <QTimer>
 #include <QUdpSocket>
 #include <QVariantList>
 
@@ -9,7 +10,7 @@
 #include <map>
 
 /// Takes the requests that the phone's applications send to a peer as datagrams, one each, and hands every one to
-/// its handler. A datagram that is no request of this peer is dropped and logged.
+/// its handler. A datagram that is no request of this peer is dropped and logged, in a flood the first ones alone.
 class RequestSocket : public QObject
 {
     Q_OBJECT
@@ -30,11 +31,15 @@ public:
 
 private:
     void readDatagrams();
+    void drop(const char *fault);
+    void tellDropped();
     const char *act(const QByteArray &datagram) const;
 
     const QByteArray m_address;
     const Handlers m_handlers;
     QUdpSocket m_socket;
+    QTimer m_dropTimer; ///< runs while lines of the log are counted
+    int m_dropped = 0; ///< since it was started
 };
 
 #endif

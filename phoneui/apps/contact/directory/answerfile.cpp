@@ -1,5 +1,6 @@
 #include "answerfile.h"
 
+#include "directorytransport.h"
 #include "phonehome.h"
 
 #include <QDebug>
@@ -9,13 +10,19 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+/// A file system may know no more than the second.
+static bool isOlder(const timespec &time, const timespec &than)
+{
+    return time.tv_sec < than.tv_sec
+        || (time.tv_sec == than.tv_sec && time.tv_nsec != 0 && time.tv_nsec < than.tv_nsec);
+}
+
 AnswerFile::AnswerFile(const PhoneHome &home, const QString &path)
 {
     const QString folder = home.runFolder();
     const QString name = path.mid(folder.size() + 1);
     m_isForeign = path != folder + QLatin1Char('/') + name || !PhoneHome::isAnswerName(name);
-    const char *fault
-        = m_isForeign ? "it does not lie where answers do" : take(folder, QFile::encodeName(name));
+    const char *fault = m_isForeign ? "it does not lie where answers do" : take(folder, QFile::encodeName(name));
     if (fault)
         qDebug() << "AnswerFile: not taken:" << fault;
 }
@@ -49,6 +56,8 @@ const char *AnswerFile::take(const QString &runFolder, const QByteArray &name)
     // Nothing but a name of ours in the run folder goes, and the file that was looked at is the one that lost it.
     else if (::unlinkat(folder, name.constData(), 0) != 0 || ::fstat(file, &facts) != 0 || facts.st_nlink != 0)
         fault = "it was exchanged meanwhile";
+    else if ((m_isForeign = isOlder(facts.st_mtim, lastDirectoryRequest())))
+        fault = "it answers an older request";
     if (folder >= 0)
         ::close(folder);
     if (!fault)

@@ -26,6 +26,14 @@ template <typename... Arguments> void send(const char *peer, const char *signatu
     QUdpSocket().writeDatagram(buffer.data(), size, QHostAddress::LocalHost, port);
 }
 
+timespec s_lastRequest{};
+
+template <typename... Arguments> void sendRequest(const char *signature, Arguments... arguments)
+{
+    ::clock_gettime(CLOCK_REALTIME_COARSE, &s_lastRequest);
+    send("XCID", signature, arguments...);
+}
+
 const char *modeOf(int action)
 {
     switch (action) {
@@ -56,19 +64,24 @@ void sendUI2CMDirectoryServiceRequest(int line, const QString &mode, const QStri
 void sendUI2HTTPDirectorySearchRequest(const QString &url)
 {
     qDebug() << "sendUI2HTTPDirectorySearchRequest";
-    send("XCID", "ui2http_directory_search_request(str)", url.toLatin1().constData());
+    sendRequest("ui2http_directory_search_request(str)", url.toLatin1().constData());
 }
 
 void sendUI2HTTPDirectoryPageRequest(const QString &url)
 {
     qDebug() << "sendUI2HTTPDirectoryPageRequest";
-    send("XCID", "ui2http_directory_page_request(str)", url.toLatin1().constData());
+    sendRequest("ui2http_directory_page_request(str)", url.toLatin1().constData());
 }
 
 void sendUI2HTTPDirectorySearchCancel()
 {
     qDebug() << "sendUI2HTTPDirectorySearchCancel";
-    send("XCID", "ui2http_directory_cancel_request()");
+    sendRequest("ui2http_directory_cancel_request()");
+}
+
+timespec lastDirectoryRequest()
+{
+    return s_lastRequest;
 }
 
 void directoryServiceRequest(int action, const QString &number, const QString &name)

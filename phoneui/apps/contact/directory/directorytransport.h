@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <ctime>
+
 // Requests of the directory to the processes beside the shell: each is one datagram on the loopback, on a socket of
 // its own. Nothing comes back here, and nothing that goes wrong is reported: the answer is an application command.
 
@@ -20,6 +22,9 @@ void sendUI2HTTPDirectorySearchRequest(const QString &url);
 void sendUI2HTTPDirectoryPageRequest(const QString &url);
 /// Drops the fetch under way.
 void sendUI2HTTPDirectorySearchCancel();
+/// When the HTTP client was last told something, by the clock that dates files; 0 before. What is older answers
+/// another request.
+timespec lastDirectoryRequest();
 
 /// What is done with the number of a directory entry: 0 calls it, 1 saves it, 2 hands the call over to it, 3 takes
 /// it into the conversation; any other action does nothing.

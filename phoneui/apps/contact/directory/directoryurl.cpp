@@ -23,7 +23,7 @@ struct Provisioning
 Provisioning readProvisioning()
 {
     const SettingsFile settings(getConfFilePath(QStringLiteral("CONFIG"), QStringLiteral("PINFO_CONF")));
-    const SettingsFile calls{QLatin1String(CallManagerState)};
+    const SettingsFile calls(QLatin1String(CallManagerState), SettingsFile::Shared);
     const bool secondary = calls.value(QStringLiteral("LINE_0/PROXY")) == QLatin1String("SECONDARY");
     const QString side = secondary ? QStringLiteral("Directory_svc_SS/Addr") : QStringLiteral("Directory_svc/Addr");
     return {settings.value(side),

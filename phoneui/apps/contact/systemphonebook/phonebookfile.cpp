@@ -29,7 +29,7 @@ QByteArray bytesOf(const QString &path)
         qDebug() << "PhonebookFile: cannot read" << path << file.errorString();
         return QByteArray();
     }
-    return file.read(MostBytes);
+    return file.read(qMin(file.size(), MostBytes));
 }
 
 /// A text that is no number counts as 0, one that is too large as the largest.

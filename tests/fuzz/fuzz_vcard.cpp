@@ -1,0 +1,29 @@
+// Any bytes are taken apart into cards; who was found in them is the same after an export and another import.
+
+#include "vcardfile.h"
+
+#include <QBuffer>
+#include <QDebug>
+
+#include <cstdint>
+#include <cstdlib>
+
+static VCardFile read(QByteArray text)
+{
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+    return VCardFile::read(&buffer, PhotoStore("/dev/null")); // keeps no photo
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const VCardFile file = read({reinterpret_cast<const char *>(data), int(size)});
+    for (const ContactImport &person : file.contacts) {
+        const VCardFile again = read(VCardBridge::write(person, QByteArray()));
+        if (again.contacts.size() != 1 || !again.skipped.isEmpty() || again.leftOut != 0
+            || again.contacts.first().contact != person.contact || again.contacts.first().groups != person.groups)
+            std::abort();
+    }
+    return 0;
+}
