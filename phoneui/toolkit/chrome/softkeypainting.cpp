@@ -1,5 +1,7 @@
 #include "softkeypainting.h"
 
+#include "shapedtext.h"
+
 #include "core.h"
 
 #include <QPainter>
@@ -33,7 +35,7 @@ bool isDarkDesign()
 
 QFont fittedFont(QFont font, const QString &text, int widest)
 {
-    if (font.pointSize() == PointSize && QFontMetrics(font).horizontalAdvance(text) >= widest) {
+    if (font.pointSize() == PointSize && ShapedText::width(font, text) >= widest) {
         font.setPointSize(SmallPointSize);
         font.setStretch(SmallStretch);
     }

@@ -1,5 +1,7 @@
 #include "tailbutton.h"
 
+#include "rowpainting.h"
+#include "shapedtext.h"
 #include "softkeypainting.h"
 #include "tail.h"
 
@@ -25,7 +27,8 @@ QString pictureName(const QString &text)
 
 QPixmap picture(const QString &name, bool down)
 {
-    return QPixmap(":/ui/images/widget/" + name + (down != SoftKeyPainting::isDarkDesign() ? "_sel.png" : ".png"));
+    return RowPainting::picture(":/ui/images/widget/" + name
+                                + (down != SoftKeyPainting::isDarkDesign() ? "_sel.png" : ".png"));
 }
 
 }
@@ -60,5 +63,5 @@ void TailButton::paintEvent(QPaintEvent *)
         return;
     }
     painter.setPen(SoftKeyPainting::textColor(isDown()));
-    painter.drawText(textRect, Qt::AlignCenter, shown);
+    ShapedText::draw(&painter, textRect, Qt::AlignCenter, shown);
 }

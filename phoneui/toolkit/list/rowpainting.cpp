@@ -1,5 +1,7 @@
 #include "rowpainting.h"
 
+#include "shapedtext.h"
+
 #include <QPainter>
 #include <QPixmapCache>
 
@@ -25,7 +27,7 @@ void drawCentred(QPainter *painter, const QRect &rect, int x, const QPixmap &pic
 
 void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &text)
 {
-    painter->drawText(rect, flags, painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+    ShapedText::draw(painter, rect, flags, text, rect.width());
 }
 
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix)

@@ -1,5 +1,6 @@
 #include "textbutton.h"
 
+#include "shapedtext.h"
 #include "softkeypainting.h"
 
 #include <QPainter>
@@ -12,5 +13,5 @@ void TextButton::paintEvent(QPaintEvent *)
     SoftKeyPainting::drawPlate(&painter, rect(), isDown(), text().isEmpty());
     painter.setFont(SoftKeyPainting::fittedFont(font(), text(), width()));
     painter.setPen(SoftKeyPainting::textColor(isDown()));
-    painter.drawText(rect().adjusted(0, SoftKeyPainting::OutlineTop, 0, 0), Qt::AlignCenter, text());
+    ShapedText::draw(&painter, rect().adjusted(0, SoftKeyPainting::OutlineTop, 0, 0), Qt::AlignCenter, text());
 }
