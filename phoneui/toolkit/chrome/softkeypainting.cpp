@@ -42,9 +42,8 @@ QFont fittedFont(QFont font, const QString &text, int widest)
     return font;
 }
 
-void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const QColor &body)
+void drawPlate(QPainter *painter, const QRect &key, bool dark, bool down, bool empty, const QColor &body)
 {
-    const bool dark = isDarkDesign(); // read from the settings
     const Colours c = colours(dark);
     const QColor fill = body.isValid() ? body : c.body;
     const QRect plate = key.adjusted(2, 0, -2, 0);
@@ -60,9 +59,9 @@ void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const
     }
 }
 
-QColor textColor(bool down)
+QColor textColor(bool dark, bool down)
 {
-    const Colours c = colours(isDarkDesign());
+    const Colours c = colours(dark);
     return down ? c.textDown : c.textUp;
 }
 
