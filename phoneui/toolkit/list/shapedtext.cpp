@@ -87,7 +87,7 @@ QTextLayout *find(const QFont &font, int widest, const QString &text)
 void draw(QPainter *painter, const QRect &rect, int flags, const QTextLayout &layout)
 {
     const QTextLine line = layout.lineAt(0);
-    const qreal height = line.ascent() + line.descent();
+    const qreal height = line.height();
     const qreal width = line.horizontalAdvance();
     QPointF at(rect.topLeft());
     if (flags & Qt::AlignRight)
@@ -97,7 +97,7 @@ void draw(QPainter *painter, const QRect &rect, int flags, const QTextLayout &la
     if (flags & Qt::AlignBottom)
         at.ry() += rect.height() - height;
     else if (flags & Qt::AlignVCenter)
-        at.ry() -= qRound((height - rect.height()) / 2); // half a pixel goes below
+        at.ry() += qRound((rect.height() - height) / 2); // half a pixel goes above
 
     const bool clips = !(flags & Qt::TextDontClip) && !QRectF(rect).contains(QRectF(at, QSizeF(width, height)));
     if (clips) {
