@@ -5,6 +5,9 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QRegExp>
+
+#include <algorithm>
 
 static constexpr int ShortestMs = 100; // a click that repeats must not keep the machine busy
 
@@ -21,13 +24,25 @@ SoundManager::SoundManager(QObject *parent) : QObject(parent), m_player(new Soun
 
 SoundManager::~SoundManager() = default;
 
+/// What matches the pattern, in the order of the names. QDir makes a regular expression of a pattern at each call,
+/// which costs more than reading the folder.
+static QFileInfoList matching(const QDir &folder, QDir::Filters kind, const QString &pattern)
+{
+    const QRegExp matcher(pattern, Qt::CaseInsensitive, QRegExp::Wildcard);
+    QFileInfoList found = folder.entryInfoList(kind, QDir::Name);
+    found.erase(std::remove_if(found.begin(), found.end(),
+                               [&](const QFileInfo &entry) { return !matcher.exactMatch(entry.fileName()); }),
+                found.end());
+    return found;
+}
+
 void SoundManager::addRingDir(QList<QFileInfo> &files, const QString &folder, const QString &pattern) const
 {
     const QDir root(folder);
-    files += root.entryInfoList({pattern}, QDir::Files, QDir::Name);
-    const QStringList folders = root.entryList({pattern}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString &name : folders)
-        files += QDir(root.filePath(name)).entryInfoList({"*.wav"}, QDir::Files, QDir::Name);
+    files += matching(root, QDir::Files, pattern);
+    const QFileInfoList folders = matching(root, QDir::Dirs | QDir::NoDotAndDotDot, pattern);
+    for (const QFileInfo &inner : folders)
+        files += matching(inner.filePath(), QDir::Files, "*.wav");
 }
 
 void SoundManager::playSound(const QString &path, bool repeat, const QString &channel)

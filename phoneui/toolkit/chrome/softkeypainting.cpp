@@ -1,5 +1,7 @@
 #include "softkeypainting.h"
 
+#include "shapedtext.h"
+
 #include "core.h"
 
 #include <QPainter>
@@ -33,16 +35,15 @@ bool isDarkDesign()
 
 QFont fittedFont(QFont font, const QString &text, int widest)
 {
-    if (font.pointSize() == PointSize && QFontMetrics(font).horizontalAdvance(text) >= widest) {
+    if (font.pointSize() == PointSize && ShapedText::width(font, text) >= widest) {
         font.setPointSize(SmallPointSize);
         font.setStretch(SmallStretch);
     }
     return font;
 }
 
-void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const QColor &body)
+void drawPlate(QPainter *painter, const QRect &key, bool dark, bool down, bool empty, const QColor &body)
 {
-    const bool dark = isDarkDesign(); // read from the settings
     const Colours c = colours(dark);
     const QColor fill = body.isValid() ? body : c.body;
     const QRect plate = key.adjusted(2, 0, -2, 0);
@@ -58,9 +59,9 @@ void drawPlate(QPainter *painter, const QRect &key, bool down, bool empty, const
     }
 }
 
-QColor textColor(bool down)
+QColor textColor(bool dark, bool down)
 {
-    const Colours c = colours(isDarkDesign());
+    const Colours c = colours(dark);
     return down ? c.textDown : c.textUp;
 }
 

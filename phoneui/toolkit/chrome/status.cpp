@@ -127,7 +127,6 @@ void Status::setTitle(const QString &text)
         return;
     }
     ui->titleLabel->setText(text);
-    update();
     emit titleChanged(text);
 }
 

@@ -189,7 +189,8 @@ void Tail::changedIMEStatus(int status)
     } else if (m_useEraseStr) {
         third->setText(m_eraseStr);
     } else {
-        third->setIcon(QIcon());
+        if (!third->icon().isNull()) // taking away none would paint the key anew at each row of a form
+            third->setIcon(QIcon());
         third->setText(tr("Erase"));
     }
 }

@@ -1,5 +1,7 @@
 #include "tailbutton.h"
 
+#include "rowpainting.h"
+#include "shapedtext.h"
 #include "softkeypainting.h"
 #include "tail.h"
 
@@ -23,9 +25,9 @@ QString pictureName(const QString &text)
     return QString();
 }
 
-QPixmap picture(const QString &name, bool down)
+QPixmap picture(const QString &name, bool other)
 {
-    return QPixmap(":/ui/images/widget/" + name + (down != SoftKeyPainting::isDarkDesign() ? "_sel.png" : ".png"));
+    return RowPainting::picture(":/ui/images/widget/" + name + (other ? "_sel.png" : ".png"));
 }
 
 }
@@ -50,15 +52,16 @@ void TailButton::paintEvent(QPaintEvent *)
     shown = shown.trimmed();
     painter.setFont(SoftKeyPainting::fittedFont(font, shown, width() - 3));
 
-    SoftKeyPainting::drawPlate(&painter, rect(), isDown(), shown.isEmpty());
+    const bool dark = SoftKeyPainting::isDarkDesign();
+    SoftKeyPainting::drawPlate(&painter, rect(), dark, isDown(), shown.isEmpty());
     const QRect textRect = rect().adjusted(0, TextTop, 0, 0);
     if (!name.isEmpty()) {
-        const QPixmap image = picture(name, isDown());
+        const QPixmap image = picture(name, isDown() != dark);
         QRect place = image.rect();
         place.moveCenter(textRect.center());
         painter.drawPixmap(place.topLeft(), image);
         return;
     }
-    painter.setPen(SoftKeyPainting::textColor(isDown()));
-    painter.drawText(textRect, Qt::AlignCenter, shown);
+    painter.setPen(SoftKeyPainting::textColor(dark, isDown()));
+    ShapedText::draw(&painter, textRect, Qt::AlignCenter, shown);
 }

@@ -1,6 +1,7 @@
 #include "timelabel.h"
 
 #include "core.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 #include <QTime>
@@ -51,14 +52,14 @@ void TimeLabel::paintEvent(QPaintEvent *)
     const QString clock = QTime::currentTime().toString(format());
     const QString head = clock.section(':', 0, 0);
     const QString tail = clock.section(':', 1);
-    const QFontMetrics metrics = painter.fontMetrics();
-    int x = width() - metrics.horizontalAdvance(clock);
+    const auto widthOf = [&](const QString &text) { return ShapedText::width(painter.font(), text); };
+    int x = width() - widthOf(clock);
     const auto draw = [&](const QString &text, int at) {
-        painter.drawText(QRect(at, 0, width() - at, height()), Qt::AlignLeft | Qt::AlignVCenter, text);
+        ShapedText::draw(&painter, QRect(at, 0, width() - at, height()), Qt::AlignLeft | Qt::AlignVCenter, text);
     };
     draw(head, x);
-    x += metrics.horizontalAdvance(head);
+    x += widthOf(head);
     if (!m_blink)
         draw(":", x);
-    draw(tail, x + metrics.horizontalAdvance(':'));
+    draw(tail, x + widthOf(":"));
 }

@@ -1,6 +1,7 @@
 #include "titlelabel.h"
 
 #include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -29,6 +30,16 @@ void TitleLabel::setTitleColor(const QColor &color)
     update();
 }
 
+QSize TitleLabel::sizeHint() const
+{
+    return QSize(0, fontMetrics().height() + 2 * margin());
+}
+
+QSize TitleLabel::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
 /// The number in the brackets that end the title, and the last piece without them.
 QString TitleLabel::pillText(QString *rest) const
 {
@@ -47,41 +58,40 @@ int TitleLabel::drawPiece(QPainter *painter, int x, int right, const QString &te
 {
     const QRect place(x, 0, qMax(0, right - x), height());
     RowPainting::drawElided(painter, place, Qt::AlignLeft | Qt::AlignVCenter, text);
-    return x + qMin(place.width(), painter->fontMetrics().horizontalAdvance(text));
+    return x + qMin(place.width(), ShapedText::width(painter->font(), text));
 }
 
 static QPixmap pillEnd(const char *side)
 {
-    return QPixmap(QString(":ui/images/title/num_bg_%1.png").arg(side));
+    return RowPainting::picture(QString(":ui/images/title/num_bg_%1.png").arg(side));
 }
 
 void TitleLabel::drawPill(QPainter *painter, int x, const QString &number) const
 {
     const QPixmap left = pillEnd("left");
     const QPixmap right = pillEnd("right");
-    const int middle = painter->fontMetrics().horizontalAdvance(number) + 2 * PillInset;
+    const int middle = ShapedText::width(painter->font(), number) + 2 * PillInset;
     const int top = RowPainting::centredTop(rect(), left.height());
     const QRect fill(x + left.width(), top, middle, left.height());
     painter->drawPixmap(x, top, left);
     painter->fillRect(fill, pillColor);
     painter->drawPixmap(fill.right() + 1, top, right);
     painter->setPen(Qt::white);
-    painter->drawText(fill, Qt::AlignCenter, number);
+    ShapedText::draw(painter, fill, Qt::AlignCenter, number);
 }
 
 void TitleLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(m_color);
-    const QFontMetrics metrics = painter.fontMetrics();
-    const QPixmap bar(":ui/images/title/breadcrumb.png");
-    const int gap = metrics.horizontalAdvance("  ");
+    const QPixmap bar = RowPainting::picture(":ui/images/title/breadcrumb.png");
+    const int gap = ShapedText::width(painter.font(), "  ");
 
     QString last;
     const QString number = pillText(&last);
     const int pillWidth = number.isEmpty() ? 0
                                            : PillGap + pillEnd("left").width() + pillEnd("right").width()
-            + metrics.horizontalAdvance(number) + 2 * PillInset;
+            + ShapedText::width(painter.font(), number) + 2 * PillInset;
     const int right = width() - margin() - qMax(0, indent()) - pillWidth;
 
     int x = margin() + qMax(0, indent());

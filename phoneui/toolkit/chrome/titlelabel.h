@@ -21,6 +21,10 @@ public:
     QColor titleColor() const { return m_color; }
     void setTitleColor(const QColor &color);
 
+    /// One line, without measuring the words: the bar gives the title what its other parts leave.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

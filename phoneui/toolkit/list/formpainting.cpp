@@ -10,9 +10,14 @@ namespace {
 constexpr int PlateTop = 2;
 constexpr int PlateHeight = 30;
 
+QString widgetPictureName(const char *name)
+{
+    return QStringLiteral(":/ui/images/widget/%1.png").arg(QLatin1String(name));
+}
+
 QPixmap widgetPicture(const char *name)
 {
-    return RowPainting::picture(QStringLiteral(":/ui/images/widget/%1.png").arg(QLatin1String(name)));
+    return RowPainting::picture(widgetPictureName(name));
 }
 
 }
@@ -56,10 +61,8 @@ void drawField(QPainter *painter, const QRect &edit, bool selected, const QStrin
 void drawValuePlate(QPainter *painter, const QRect &plate, bool strong, const QString &value, int points)
 {
     static constexpr int ArrowWidth = 16;
-    const QPixmap picture = widgetPicture(strong ? "list_focus_sel" : "list_focus");
-    const auto part = [&](int x, int width) { return picture.copy(x, 0, width, picture.height()); };
-    RowPainting::drawSlices(painter, plate, part(0, ArrowWidth), part(ArrowWidth, 1),
-                            part(picture.width() - ArrowWidth, ArrowWidth));
+    RowPainting::drawSlices(painter, plate, widgetPictureName(strong ? "list_focus_sel" : "list_focus"),
+                            ArrowWidth);
 
     painter->save();
     RowPainting::setPointSize(painter, points);

@@ -180,8 +180,12 @@ bool GridSelectView::leadsOut(int key)
 void GridSelectView::moveByArrow(int key)
 {
     const GridMoves::Grid cells = grid();
-    m_currentPage = selectedIdx() / cells.perPage() + 1;
-    update();
+    const int page = selectedIdx() / cells.perPage() + 1;
+    if (page != m_currentPage) {
+        m_currentPage = page;
+        update();
+    }
+    totalPage();
     if (selectedIdx() == -1)
         setSelectedIdx(0);
     else if (m_scrollType == ScrollByColumn)
@@ -193,11 +197,14 @@ void GridSelectView::moveByArrow(int key)
 void GridSelectView::apply(const GridMoves::Move &move)
 {
     const QPointer<GridSelectView> alive(this);
+    if (move.page == GridMoves::Page::Same)
+        m_movedPart = QRegion(paintedRect(selectedIdx())) | paintedRect(move.index);
     setSelectedIdx(move.index);
     if (!alive)
         return;
+    m_movedPart = QRegion();
     switch (move.page) {
-    case GridMoves::Page::Same: update(); break;
+    case GridMoves::Page::Same: break;
     case GridMoves::Page::Next: moveToNextPage(); break;
     case GridMoves::Page::Previous: moveToPrevPage(); break;
     case GridMoves::Page::First: showPage(1); break;

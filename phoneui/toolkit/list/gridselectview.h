@@ -103,8 +103,10 @@ private:
     /// Column and line of a place on the page.
     QPoint place(int slot) const;
     QRect cellRect(int slot) const;
+    /// All that a cell of this page paints, its focus frame included.
+    QRect paintedRect(int idx) const;
     int firstOfPage() const { return (m_currentPage - 1) * itemCountPerPage(); }
-    void paintCells(QPainter *painter);
+    void paintCells(QPainter *painter, const QRegion &part);
     void paintLines(QPainter *painter);
     void paintDivideLines(QPainter *painter);
     void paintOuterLines(QPainter *painter);

@@ -4,6 +4,7 @@
 #include "listgeometry.h"
 #include "listpainting.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 QPoint GridSelectView::place(int slot) const
@@ -19,7 +20,13 @@ QRect GridSelectView::cellRect(int slot) const
     return QRect(at.x() * (width + m_colGap), at.y() * (height + m_rowGap), width, height);
 }
 
-void GridSelectView::paintEvent(QPaintEvent *)
+QRect GridSelectView::paintedRect(int idx) const
+{
+    static constexpr int Around = 5;
+    return cellRect(idx - firstOfPage()).adjusted(-Around, -Around, Around, Around);
+}
+
+void GridSelectView::paintEvent(QPaintEvent *event)
 {
     m_row = qMax(1, m_row);
     m_col = qMax(1, m_col);
@@ -30,12 +37,12 @@ void GridSelectView::paintEvent(QPaintEvent *)
         paintEmptyLook(&painter);
         return;
     }
-    paintCells(&painter);
+    paintCells(&painter, event->region());
     paintLines(&painter);
     paintFocus(&painter);
 }
 
-void GridSelectView::paintCells(QPainter *painter)
+void GridSelectView::paintCells(QPainter *painter, const QRegion &part)
 {
     const auto focusType = static_cast<eListViewItemFocusType>(m_focusType);
     const int selected = selectedIdx();
@@ -56,7 +63,8 @@ void GridSelectView::paintCells(QPainter *painter)
         cell->setSelected(idx == selected);
         if (idx != selected)
             cell->setIsPressed(false);
-        cell->paint(painter, rect);
+        if (idx == selected || part.intersects(rect))
+            cell->paint(painter, rect);
     }
 }
 

@@ -6,6 +6,8 @@
 #include <QDebug>
 #include <QEvent>
 
+#include <utility>
+
 ListView::ListView(QWidget *parent) : QWidget(parent)
 {
     static constexpr int LongPressTime = 1000, AfterThisEvent = 1; // ms
@@ -109,6 +111,7 @@ int ListView::selectedIdx()
 
 void ListView::setSelectedIdx(int idx)
 {
+    const QRegion moved = std::exchange(m_movedPart, QRegion());
     if (idx >= itemSize()) {
         qDebug() << "ListView::setSelectedIdx no row" << idx << "of" << itemSize();
         return;
@@ -119,7 +122,10 @@ void ListView::setSelectedIdx(int idx)
     }
     const bool changed = m_selectedIdx != idx;
     m_selectedIdx = idx;
-    update();
+    if (moved.isEmpty())
+        update();
+    else
+        update(moved);
     if (changed) {
         scheduleCheckFocus();
         emit focusChanged(m_selectedIdx);

@@ -205,6 +205,8 @@ protected:
     void paintFloating(QPainter *painter, ListViewItem *row, const QRect &rect, const QRect &frame);
 
     bool m_isEnableFuncKey = false;
+    /// What the next change of the selection repaints instead of everything.
+    QRegion m_movedPart;
 
 private:
     void showRowOfPage();
@@ -219,7 +221,7 @@ private:
     void clickSelected(QKeyEvent *event);
     void clickByFuncKey(QKeyEvent *event);
 
-    void paintRows(QPainter *painter);
+    void paintRows(QPainter *painter, const QRegion &part);
     void paintSeparator(QPainter *painter, const ListViewItem *row, const QRect &rect);
     void paintEdgeLines(QPainter *painter);
 

@@ -1,6 +1,7 @@
 #include "listviewcallitem.h"
 
 #include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -50,9 +51,9 @@ void ListViewCallItem::paint(QPainter *painter, QRect &rect)
     RowPainting::drawCentred(painter, rect, rect.left() + IconLeft,
                              RowPainting::inked(QPixmap(stateIconName(m_callState)), painter->pen().color()));
     const QString timer = timerText();
-    const int timerWidth = painter->fontMetrics().horizontalAdvance(timer);
+    const int timerWidth = ShapedText::width(painter->font(), timer);
     const QRect content = rect.adjusted(TextLeft, 0, -TimerFromRight, 0);
-    painter->drawText(content, Qt::AlignVCenter | Qt::AlignRight, timer);
+    ShapedText::draw(painter, content, Qt::AlignVCenter | Qt::AlignRight, timer);
     RowPainting::drawElided(painter, content.adjusted(0, 0, -timerWidth - Gap, 0), alignment(), text());
     painter->restore();
 }

@@ -1,7 +1,7 @@
 #include "listviewcheckitem.h"
 
 #include "formpainting.h"
-#include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -27,8 +27,7 @@ void ListViewCheckItem::paint(QPainter *painter, QRect &rect)
     QRect titleRect = rect.adjusted(FormPainting::TitleLeft, 0, 0, 0);
     titleRect.setRight(rect.right() - FormPainting::markSize().width() + BeyondBox);
     // The rectangle reaches under the box, which counts for other alignments; a long title ends before the box.
-    painter->drawText(titleRect, alignment(),
-                      painter->fontMetrics().elidedText(text(), Qt::ElideRight, box.x() - Gap - titleRect.left()));
+    ShapedText::draw(painter, titleRect, alignment(), text(), box.x() - Gap - titleRect.left());
     FormPainting::drawCheckBox(painter, box, m_checked, isPressed());
     painter->restore();
 }
@@ -48,7 +47,7 @@ void ListViewCheckGroupItem::paint(QPainter *painter, QRect &rect)
     paintGround(painter, rect);
     FormPainting::drawCheckBox(painter, QPoint(rect.left() + BoxLeft, FormPainting::markTop(rect)), isChecked(),
                                isPressed());
-    painter->drawText(rect.adjusted(FormPainting::markSize().width() + TextBehindBox, 0, 0, 0), alignment(),
-                      text());
+    ShapedText::draw(painter, rect.adjusted(FormPainting::markSize().width() + TextBehindBox, 0, 0, 0), alignment(),
+                     text());
     painter->restore();
 }

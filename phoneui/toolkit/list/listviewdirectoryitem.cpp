@@ -1,5 +1,7 @@
 #include "listviewdirectoryitem.h"
 
+#include "shapedtext.h"
+
 #include <QPainter>
 
 ListViewDirectoryItem::ListViewDirectoryItem(QString const &text, QString const &midText, QString const &endText)
@@ -19,8 +21,8 @@ void ListViewDirectoryItem::paint(QPainter *painter, QRect &rect)
     paintGround(painter, rect);
     const int second = rect.left() + SecondColumn;
     const auto column = [&](int left, int width) { return QRect(left, rect.top(), width, rect.height()); };
-    painter->drawText(column(rect.left() + NameLeft, ColumnWidth), alignment(), text());
-    painter->drawText(column(second, ColumnWidth), m_midAlignment, m_midText);
-    painter->drawText(column(second, rect.width() - EndFromRight), m_endTextAlignment, m_endText);
+    ShapedText::draw(painter, column(rect.left() + NameLeft, ColumnWidth), alignment(), text());
+    ShapedText::draw(painter, column(second, ColumnWidth), m_midAlignment, m_midText);
+    ShapedText::draw(painter, column(second, rect.width() - EndFromRight), m_endTextAlignment, m_endText);
     painter->restore();
 }

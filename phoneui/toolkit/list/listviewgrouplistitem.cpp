@@ -1,6 +1,7 @@
 #include "listviewgrouplistitem.h"
 
 #include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -19,9 +20,9 @@ void ListViewGroupListItem::paint(QPainter *painter, QRect &rect)
     painter->save();
     paintGround(painter, rect);
     const QPixmap pressedImage(QStringLiteral(":/ui/images/contact/contacts_group_sel.png"));
-    const int digits = painter->fontMetrics().horizontalAdvance(QStringLiteral("000"));
+    const int digits = ShapedText::width(painter->font(), QStringLiteral("000"));
     const int atRight = pressedImage.width() + digits + Gaps;
-    painter->drawText(rect.adjusted(TextLeft, 0, -atRight, 0), alignment(), text());
+    ShapedText::draw(painter, rect.adjusted(TextLeft, 0, -atRight, 0), alignment(), text());
 
     const int imageLeft = rect.right() + 1 - atRight;
     if (isPressed()) {
@@ -32,7 +33,8 @@ void ListViewGroupListItem::paint(QPainter *painter, QRect &rect)
                                  QPixmap(QStringLiteral(":/ui/images/contact/contacts_group.png")));
     }
     // As wide as three digits: the front of a longer count is cut off.
-    painter->drawText(QRect(imageLeft + pressedImage.width() + CountBehindImage, rect.top(), digits, rect.height()),
-                      Qt::AlignVCenter | Qt::AlignRight, m_count);
+    ShapedText::draw(painter,
+                     QRect(imageLeft + pressedImage.width() + CountBehindImage, rect.top(), digits, rect.height()),
+                     Qt::AlignVCenter | Qt::AlignRight, m_count);
     painter->restore();
 }

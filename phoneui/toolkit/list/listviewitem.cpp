@@ -1,6 +1,7 @@
 #include "listviewitem.h"
 
 #include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -91,12 +92,11 @@ void ListViewItem::paint(QPainter *painter, QRect &rect)
         textRect.setWidth(elideWidth);
     }
 
-    const QString shown = painter->fontMetrics().elidedText(text(), Qt::ElideRight, elideWidth);
     if (useShadow() && !selected()) {
         painter->setPen(shadowColor);
-        painter->drawText(textRect.adjusted(1, 2, 0, 0), alignment(), shown);
+        ShapedText::draw(painter, textRect.adjusted(1, 2, 0, 0), alignment(), text(), elideWidth);
         painter->setPen(textColor());
     }
-    painter->drawText(textRect, alignment(), shown);
+    ShapedText::draw(painter, textRect, alignment(), text(), elideWidth);
     painter->restore();
 }

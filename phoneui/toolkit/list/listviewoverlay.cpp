@@ -76,6 +76,8 @@ QLineEdit *ListView::createOverlay()
     overlay->installEventFilter(this);
     overlay->setFont(font());
     overlay->setStyleSheet(QStringLiteral("QLineEdit {background-color: white; color: black; border: none; }"));
+    overlay->ensurePolished();
+    overlay->setAttribute(Qt::WA_OpaquePaintEvent); // white all over: the rows behind need no paint
     return overlay;
 }
 

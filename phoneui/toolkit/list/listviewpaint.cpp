@@ -4,6 +4,7 @@
 #include "listpainting.h"
 #include "rowkinds.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 int ListView::scrollWidth() const
@@ -23,7 +24,7 @@ QRect ListView::rowRect(int idx) const
     return ListGeometry::rowRect(frame, idx - m_startIdx);
 }
 
-void ListView::paintEvent(QPaintEvent *)
+void ListView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     paintGround(&painter);
@@ -33,7 +34,7 @@ void ListView::paintEvent(QPaintEvent *)
     }
     if (scrollWidth() > 0)
         paintScrollBar(&painter, ListPainting::DarkGrey);
-    paintRows(&painter);
+    paintRows(&painter, event->region());
 }
 
 void ListView::paintGround(QPainter *painter)
@@ -86,7 +87,7 @@ void ListView::prepareRow(ListViewItem *row, const QRect &rect, int scrollWidth)
     row->setItemRect(rect);
 }
 
-void ListView::paintRows(QPainter *painter)
+void ListView::paintRows(QPainter *painter, const QRegion &part)
 {
     const int lastOfPage = m_startIdx + m_pageCount - 1;
     const int selected = selectedIdx();
@@ -106,7 +107,8 @@ void ListView::paintRows(QPainter *painter)
             row->setSelected(idx == selected);
         if (idx != selected)
             row->setIsPressed(false);
-        row->paint(painter, rect);
+        if (idx == selected || part.intersects(rect))
+            row->paint(painter, rect);
         if (idx < lastOfPage)
             paintSeparator(painter, row, rect);
     }

@@ -1,6 +1,7 @@
 #include "listviewsearchitem.h"
 
 #include "rowpainting.h"
+#include "shapedtext.h"
 
 #include <QPainter>
 
@@ -23,8 +24,8 @@ void ListViewSearchItem::paint(QPainter *painter, QRect &rect)
 
     painter->save();
     paintGround(painter, rect);
-    painter->drawText(QRect(rect.left() + NameLeft, rect.top(), NameWidth, rect.height()), alignment(),
-                      painter->fontMetrics().elidedText(text(), Qt::ElideRight, NameElideWidth));
+    ShapedText::draw(painter, QRect(rect.left() + NameLeft, rect.top(), NameWidth, rect.height()), alignment(),
+                     text(), NameElideWidth);
 
     const QPixmap &image = selected() ? m_images.selected() : m_images.normal();
     if (!image.isNull())

@@ -1,7 +1,11 @@
 #include "rowpainting.h"
 
+#include "shapedtext.h"
+
 #include <QPainter>
 #include <QPixmapCache>
+
+#include <functional>
 
 namespace RowPainting {
 
@@ -25,13 +29,41 @@ void drawCentred(QPainter *painter, const QRect &rect, int x, const QPixmap &pic
 
 void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &text)
 {
-    painter->drawText(rect, flags, painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+    ShapedText::draw(painter, rect, flags, text, rect.width());
+}
+
+/// Draws the plate of that width that is kept under the name, or else is made by `slice` from three parts.
+static void drawKeptPlate(QPainter *painter, const QRect &rect, const QString &name,
+                          const std::function<QPixmap(int part)> &slice)
+{
+    const QString key = name + QLatin1Char('/') + QString::number(rect.width());
+    QPixmap plate;
+    if (!QPixmapCache::find(key, &plate)) {
+        const QPixmap middle = slice(1);
+        plate = QPixmap(qMax(1, rect.width()), qMax(1, middle.height()));
+        plate.fill(Qt::transparent);
+        QPainter plater(&plate);
+        drawSlices(&plater, QRect(0, 0, rect.width(), rect.height()), slice(0), middle, slice(2));
+        plater.end();
+        QPixmapCache::insert(key, plate);
+    }
+    painter->drawPixmap(rect.topLeft(), plate);
 }
 
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix)
 {
-    const auto slice = [&](const char *part) { return picture(stem + QLatin1String(part) + suffix + ".png"); };
-    drawSlices(painter, rect, slice("_left"), slice("_mid"), slice("_right"));
+    static const char *const parts[] = {"_left", "_mid", "_right"};
+    drawKeptPlate(painter, rect, stem + suffix,
+                  [&](int part) { return picture(stem + QLatin1String(parts[part]) + suffix + ".png"); });
+}
+
+void drawSlices(QPainter *painter, const QRect &rect, const QString &resource, int endWidth)
+{
+    drawKeptPlate(painter, rect, resource, [&](int part) {
+        const QPixmap whole = picture(resource);
+        const int left[] = {0, endWidth, whole.width() - endWidth};
+        return whole.copy(left[part], 0, part == 1 ? 1 : endWidth, whole.height());
+    });
 }
 
 void drawSlices(QPainter *painter, const QRect &rect, const QPixmap &left, const QPixmap &middle,

@@ -23,10 +23,13 @@ void drawCentred(QPainter *painter, const QRect &rect, int x, const QPixmap &pic
 /// Draws the text cut at its right end to the rectangle's width.
 void drawElided(QPainter *painter, const QRect &rect, int flags, const QString &text);
 
-/// A plate of any width: the ends keep their width, the middle is stretched between them from one column.
+/// A plate of any width, put together once for each: the ends keep their width, the middle is stretched between
+/// them from one column.
 /// `stem` and `suffix` name the three pictures: "…/inputbox" and "_sel" read "…/inputbox_left_sel.png" and so on.
 void drawSlices(QPainter *painter, const QRect &rect, const QString &stem, const QString &suffix = QString());
-/// The same from pictures at hand.
+/// The same from one picture, whose ends are that wide.
+void drawSlices(QPainter *painter, const QRect &rect, const QString &resource, int endWidth);
+/// The same from pictures at hand, at each call.
 void drawSlices(QPainter *painter, const QRect &rect, const QPixmap &left, const QPixmap &middle,
                 const QPixmap &right);
 

@@ -100,7 +100,8 @@ void ImageButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QPixmap &icon = m_hover && !m_pressIcon.isNull() ? m_pressIcon : m_icon;
-    SoftKeyPainting::drawPlate(&painter, rect(), m_hover, m_text.isEmpty() && icon.isNull(), m_bgColor);
+    const bool dark = SoftKeyPainting::isDarkDesign();
+    SoftKeyPainting::drawPlate(&painter, rect(), dark, m_hover, m_text.isEmpty() && icon.isNull(), m_bgColor);
 
     QRect textRect = rect().adjusted(m_leftGap, SoftKeyPainting::OutlineTop, -m_rightGap, 0);
     if (!icon.isNull()) {
@@ -112,14 +113,14 @@ void ImageButton::paintEvent(QPaintEvent *)
     if (icon.isNull() && QFontMetrics(textFont).horizontalAdvance(m_text) > textRect.width())
         textRect.setRect(0, textRect.top(), width(), textRect.height()); // rather a whole word than free gaps
     painter.setFont(textFont);
-    painter.setPen(textColor());
+    painter.setPen(textColor(dark));
     RowPainting::drawElided(&painter, textRect, Qt::AlignCenter, m_text);
 }
 
-QColor ImageButton::textColor() const
+QColor ImageButton::textColor(bool dark) const
 {
     static constexpr int MiddleLightness = 127;
     if (m_hover || !m_bgColor.isValid())
-        return SoftKeyPainting::textColor(m_hover);
+        return SoftKeyPainting::textColor(dark, m_hover);
     return m_bgColor.lightness() > MiddleLightness ? Qt::black : Qt::white;
 }

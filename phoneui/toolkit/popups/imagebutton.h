@@ -44,7 +44,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QColor textColor() const;
+    QColor textColor(bool dark) const;
 
     QPixmap m_icon;
     QPixmap m_pressIcon;

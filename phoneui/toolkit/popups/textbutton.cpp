@@ -1,5 +1,6 @@
 #include "textbutton.h"
 
+#include "shapedtext.h"
 #include "softkeypainting.h"
 
 #include <QPainter>
@@ -9,8 +10,9 @@ TextButton::TextButton(QWidget *parent) : QPushButton(parent) { }
 void TextButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    SoftKeyPainting::drawPlate(&painter, rect(), isDown(), text().isEmpty());
+    const bool dark = SoftKeyPainting::isDarkDesign();
+    SoftKeyPainting::drawPlate(&painter, rect(), dark, isDown(), text().isEmpty());
     painter.setFont(SoftKeyPainting::fittedFont(font(), text(), width()));
-    painter.setPen(SoftKeyPainting::textColor(isDown()));
-    painter.drawText(rect().adjusted(0, SoftKeyPainting::OutlineTop, 0, 0), Qt::AlignCenter, text());
+    painter.setPen(SoftKeyPainting::textColor(dark, isDown()));
+    ShapedText::draw(&painter, rect().adjusted(0, SoftKeyPainting::OutlineTop, 0, 0), Qt::AlignCenter, text());
 }
