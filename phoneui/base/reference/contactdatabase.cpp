@@ -2,8 +2,6 @@
 
 #include "groupdata.h"
 
-#include <malloc.h>
-
 #define CONTACT_COLUMNS "id, name, picture, email1, email2, email3, memo, bell, buddy_id, extra"
 
 namespace {
@@ -53,7 +51,7 @@ ContactData contactOfRow(const SqliteStatement &row)
 }
 
 /// The values of CONTACT_COLUMNS after the id. A null text stays null.
-QVariantList valuesOf(const ContactData &contact)
+SqliteValues valuesOf(const ContactData &contact)
 {
     return {contact.name, contact.picture, contact.email1,  contact.email2, contact.email3,
             contact.memo, contact.bell,    contact.buddyId, contact.extra};
@@ -101,7 +99,7 @@ ContactData ContactDatabase::contact(int id) const
     return contact;
 }
 
-QVariant ContactDatabase::value(const char *sql, const QVariantList &values) const
+QVariant ContactDatabase::value(const char *sql, const SqliteValues &values) const
 {
     SqliteStatement statement = m_file.statement(sql);
     return statement.run(values) && statement.next() ? statement.value(0) : QVariant();
@@ -136,12 +134,8 @@ void ContactDatabase::refreshSearch()
         return;
     m_search.clear();
     QList<ContactData> contacts;
-    if (!readContacts(&contacts))
-        return;
-    m_search.load(contacts, version);
-    // The search has texts of its own; the room of those just read would stay with the process.
-    contacts.clear();
-    ::malloc_trim(0);
+    if (readContacts(&contacts))
+        m_search.load(std::move(contacts), version);
 }
 
 int ContactDatabase::insert(const ContactData &contact)
@@ -160,7 +154,7 @@ bool ContactDatabase::update(const ContactData &contact)
     SqliteStatement statement = m_file.statement(
         "UPDATE contacts SET name = ?, picture = ?, email1 = ?, email2 = ?, email3 = ?, memo = ?,"
         " bell = ?, buddy_id = ?, extra = ? WHERE id = ?");
-    QVariantList values = valuesOf(contact);
+    SqliteValues values = valuesOf(contact);
     values.append(contact.id);
     return statement.run(values) && statement.rowsAffected() == 1
         && m_file.statement("DELETE FROM numbers WHERE contact_id = ?").run({contact.id})

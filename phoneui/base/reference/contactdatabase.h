@@ -15,11 +15,13 @@ public:
 
     /// All contacts in the order of their names, of one name by id. They stay in memory until the file changes.
     QList<ContactData> allContacts();
+    /// All contacts by id, past what is in memory; false when the file cannot be read.
+    bool readContacts(QList<ContactData> *contacts) const;
     /// The contact, or an empty one with id 0.
     ContactData contact(int id) const;
     QList<ContactData> search(const QString &word);
     /// The first value that the statement gives for these values; invalid without a row.
-    QVariant value(const char *sql, const QVariantList &values = {}) const;
+    QVariant value(const char *sql, const SqliteValues &values = {}) const;
     QList<int> ids(const char *sql, int key) const;
 
     // The writing halves belong inside file().write().
@@ -37,7 +39,6 @@ public:
     void forgetContacts() { m_search.clear(); }
 
 private:
-    bool readContacts(QList<ContactData> *contacts) const;
     void refreshSearch();
     bool insertNumbers(int contactId, const ContactData &contact);
 
