@@ -12,7 +12,7 @@ void SqliteValue::bind(sqlite3_stmt *statement, int place) const
     else if (m_text.isNull())
         sqlite3_bind_null(statement, place);
     else
-        sqlite3_bind_text16(statement, place, m_text.utf16(), m_text.size() * int(sizeof(ushort)), SQLITE_TRANSIENT);
+        sqlite3_bind_text16(statement, place, m_text.constData(), m_text.size() * int(sizeof(QChar)), SQLITE_STATIC);
 }
 
 SqliteStatement::~SqliteStatement()
@@ -26,8 +26,9 @@ bool SqliteStatement::run(const SqliteValues &values)
     if (!statement)
         return false;
     sqlite3_reset(statement);
-    for (int i = 0; i < values.size(); ++i)
-        values.at(i).bind(statement, i + 1);
+    m_values = values;
+    for (int i = 0; i < m_values.size(); ++i)
+        m_values.at(i).bind(statement, i + 1);
     const int result = sqlite3_step(statement);
     m_hasRow = result == SQLITE_ROW;
     if (m_hasRow || result == SQLITE_DONE)

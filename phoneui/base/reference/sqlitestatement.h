@@ -17,6 +17,7 @@ public:
     SqliteValue(int number) : SqliteValue(qint64(number)) { }
     SqliteValue(const QString &text) : m_text(text) { }
 
+    /// SQLite reads the text from here.
     void bind(sqlite3_stmt *statement, int place) const;
 
 private:
@@ -56,6 +57,7 @@ public:
 
 private:
     const QSharedPointer<sqlite3_stmt> m_statement;
+    SqliteValues m_values;
     bool m_hasRow = false; ///< the one that run() found, for next()
 };
 
