@@ -72,7 +72,8 @@ bool isNameLetter(char c)
 bool mayDiffer(const QByteArray &line)
 {
     const auto nameEnd = std::find_if_not(line.begin(), line.end(), isNameLetter);
-    return (nameEnd != line.end() && *nameEnd == '.') || beginsWith(line, "PHOTO") || beginsWith(line, "CATEGORIES");
+    return (nameEnd != line.end() && *nameEnd == '.') || beginsWith(line, "PHOTO")
+        || beginsWith(line, "CATEGORIES");
 }
 
 QByteArray plainForm(const QByteArray &line, bool continued)

@@ -4,6 +4,17 @@
 #include "contactdata.h"
 #include "contactsearch.h"
 #include "sqlitefile.h"
+#include "sqliterows.h"
+
+/// Contacts that are being added, with what belongs to them.
+struct ContactRows
+{
+    explicit ContactRows(const SqliteFile &file);
+    bool flush() { return numbers.flush() && memberships.flush(); }
+
+    SqliteRows contacts, numbers, memberships;
+    int lastId; ///< of the contacts added so far
+};
 
 /// The tables of contacts, numbers, groups and memberships in one file, the phone's own or a mobile device's.
 class ContactDatabase
@@ -26,11 +37,9 @@ public:
 
     // The writing halves belong inside file().write().
 
-    /// The contact's new id; 0 when it failed.
-    int insert(const ContactData &contact);
+    /// Adds the contact under a new id, rows->lastId.
+    static bool insert(const ContactData &contact, const QList<int> &groupIds, ContactRows *rows);
     bool update(const ContactData &contact);
-    /// For a contact that is in no group, as a new one is.
-    bool insertMemberships(int contactId, const QList<int> &groupIds);
     bool replaceMemberships(int contactId, const QList<int> &groupIds);
     /// The id of the group of that name, which is made when there is none; 0 when it failed.
     int groupIdByName(const QString &name);
@@ -40,7 +49,8 @@ public:
 
 private:
     void refreshSearch();
-    bool insertNumbers(int contactId, const ContactData &contact);
+    static bool addNumbers(int contactId, const ContactData &contact, SqliteRows *numbers);
+    static bool addMemberships(int contactId, const QList<int> &groupIds, SqliteRows *memberships);
 
     SqliteFile m_file;
     ContactSearch m_search;

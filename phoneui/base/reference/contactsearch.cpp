@@ -7,7 +7,8 @@
 
 namespace {
 
-/// A place among the names. Their first letters decide most comparisons, and stand together with those of the others.
+/// A place among the names. Their first letters decide most comparisons, and stand together with those of the
+/// others.
 struct Place
 {
     quint64 letters;

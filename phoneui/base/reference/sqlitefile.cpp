@@ -229,14 +229,14 @@ bool SqliteFile::moveAside(const QString &reason) const
     return true;
 }
 
-SqliteStatement SqliteFile::statement(const char *sql) const
+SqliteStatement SqliteFile::statement(const QByteArray &sql) const
 {
     if (!m_open)
         return SqliteStatement({});
     QSharedPointer<sqlite3_stmt> &statement = m_statements[sql];
     if (!statement) {
         sqlite3_stmt *prepared = nullptr;
-        sqlite3_prepare_v3(handle(), sql, -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
+        sqlite3_prepare_v3(handle(), sql.constData(), sql.size(), SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
         if (!prepared)
             qWarning() << "SqliteFile:" << sqlite3_errmsg(handle()) << "in" << sql;
         statement.reset(prepared, sqlite3_finalize);
@@ -247,7 +247,8 @@ SqliteStatement SqliteFile::statement(const char *sql) const
 sqlite3 *SqliteFile::handle() const
 {
     const QVariant handle = QSqlDatabase::database(m_connection, false).driver()->handle();
-    return qstrcmp(handle.typeName(), "sqlite3*") == 0 ? *static_cast<sqlite3 *const *>(handle.constData()) : nullptr;
+    return qstrcmp(handle.typeName(), "sqlite3*") == 0 ? *static_cast<sqlite3 *const *>(handle.constData())
+                                                       : nullptr;
 }
 
 bool SqliteFile::write(const std::function<bool()> &work)

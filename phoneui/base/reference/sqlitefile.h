@@ -3,6 +3,7 @@
 
 #include "sqlitestatement.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QSharedPointer>
 #include <QString>
@@ -39,8 +40,8 @@ public:
     ~SqliteFile();
 
     bool isOpen() const { return m_open; }
-    /// A prepared statement, kept for the next time under the address of `sql`, which is a literal.
-    SqliteStatement statement(const char *sql) const;
+    /// A prepared statement, kept for the next time.
+    SqliteStatement statement(const QByteArray &sql) const;
     /// Runs `work` in one transaction, which counts only if `work` and the commit succeed.
     bool write(const std::function<bool()> &work);
     /// Another number whenever another connection has changed the file.
@@ -70,7 +71,7 @@ private:
     const SqliteSchema m_schema;
     const Access m_access;
     const QString m_connection;
-    mutable QHash<const char *, QSharedPointer<sqlite3_stmt>> m_statements;
+    mutable QHash<QByteArray, QSharedPointer<sqlite3_stmt>> m_statements;
     bool m_open = false;
     bool m_writable = false;
 };

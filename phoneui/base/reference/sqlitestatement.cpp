@@ -12,7 +12,8 @@ void SqliteValue::bind(sqlite3_stmt *statement, int place) const
     else if (m_text.isNull())
         sqlite3_bind_null(statement, place);
     else
-        sqlite3_bind_text16(statement, place, m_text.constData(), m_text.size() * int(sizeof(QChar)), SQLITE_STATIC);
+        sqlite3_bind_text16(statement, place, m_text.constData(), m_text.size() * int(sizeof(QChar)),
+                            SQLITE_STATIC);
 }
 
 SqliteStatement::~SqliteStatement()
