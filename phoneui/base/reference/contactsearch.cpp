@@ -3,6 +3,7 @@
 #include "textfolding.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -39,15 +40,19 @@ std::vector<Place> orderOfNames(const QList<ContactData> &contacts)
     return order;
 }
 
+/// Contacts change places, without being copied.
 void sortByName(QList<ContactData> *contacts)
 {
-    const std::vector<Place> order = orderOfNames(*contacts);
-    for (int i = 0; i < contacts->size(); ++i) {
-        // What stood at a place that is done has been swapped to where that one came from.
-        int from = order[std::size_t(i)].idx;
-        while (from < i)
-            from = order[std::size_t(from)].idx;
-        contacts->swapItemsAt(i, from);
+    std::vector<Place> order = orderOfNames(*contacts);
+    for (int first = 0; first < contacts->size(); ++first) {
+        // What gives way goes where the next one came from, until one belongs where it was put.
+        for (int at = first; order[std::size_t(at)].idx != at;) {
+            const int from = std::exchange(order[std::size_t(at)].idx, at);
+            if (from == first)
+                break;
+            contacts->swapItemsAt(at, from);
+            at = from;
+        }
     }
 }
 
@@ -127,10 +132,12 @@ void ContactSearch::clear()
 
 void ContactSearch::appendLine(const ContactData &contact)
 {
-    m_lines += TextFolding::nameLine(contact.name);
+    TextFolding::appendNameLine(&m_lines, contact.name);
     for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
-        if (!contact.number(slot).isEmpty())
-            m_lines += TextFolding::Separator + contact.number(slot);
+        if (contact.number(slot).isEmpty())
+            continue;
+        m_lines += TextFolding::Separator;
+        m_lines += contact.number(slot);
     }
     // No word holds the separator, so none is found across two lines.
     m_lines += TextFolding::Separator;
