@@ -1,6 +1,6 @@
 # Shared by ./run and ./test: brings in what is missing on a Debian machine, then configures and builds.
 
-packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5sql5-sqlite
+packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5sql5-sqlite libsqlite3-dev
     libkf5contacts-dev libhangul-dev pkg-config libcpp-httplib-dev libssl-dev librsvg2-bin fonts-roboto-unhinted fonts-nanum)
 
 fail() {

@@ -177,7 +177,8 @@ QString memoOf(const Addressee &card)
 /// The number of a "tel:" address without its parameters, else the text as it stands.
 QString numberOf(const PhoneNumber &phone)
 {
-    return ContactData::bareNumber(phone.number().section(QLatin1Char(';'), 0, 0));
+    const QString number = phone.number();
+    return ContactData::bareNumber(number.left(number.indexOf(QLatin1Char(';'))));
 }
 
 void readNumbers(const Addressee &card, VCardReading *reading)
@@ -249,6 +250,19 @@ Addressee words(const ContactImport &entry, const QByteArray &photo)
 
 }
 
+/// What this phone has written of its own replaces what the words of vCards gave.
+static void readOwnProperties(const Addressee &card, VCardReading *reading)
+{
+    if (card.customs().isEmpty())
+        return;
+    for (const Field &field : Fields) {
+        const QString exact = card.custom(Vendor, QLatin1String(field.property));
+        if (!exact.isEmpty())
+            field.set(reading->entry, exact);
+    }
+    reading->picture = unescaped(card.custom(Vendor, ExactPicture));
+}
+
 VCardReading VCardBridge::read(const QByteArray &text)
 {
     VCardReading reading;
@@ -261,12 +275,7 @@ VCardReading VCardBridge::read(const QByteArray &text)
     reading = readWords(card);
     reading.position = card.title();
     reading.department = card.department();
-    for (const Field &field : Fields) {
-        const QString exact = card.custom(Vendor, QLatin1String(field.property));
-        if (!exact.isEmpty())
-            field.set(reading.entry, exact);
-    }
-    reading.picture = unescaped(card.custom(Vendor, ExactPicture));
+    readOwnProperties(card, &reading);
     const bool nobody = reading.entry.contact.name.isEmpty() && numbersText(reading.entry).isEmpty();
     if (nobody && card.custom(Vendor, WrittenHere).isEmpty())
         reading.problem = QStringLiteral("no name and no number");

@@ -5,6 +5,7 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -12,16 +13,35 @@ namespace {
 constexpr int LargestCard = 16 * 1024 * 1024;
 // The device makes room for this much before it knows how long a line is.
 constexpr int LinePiece = 4096;
+// Without a photo.
+constexpr int UsualCard = 4096;
 
-bool isLine(const QByteArray &line, const char *text)
+bool isSpace(char c)
 {
-    return line.trimmed().compare(text, Qt::CaseInsensitive) == 0;
+    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-bool decodes(const QByteArray &bytes, const char *charset, QString *text)
+/// Whether the line holds this text and white space.
+bool isLine(const QByteArray &line, const char *text)
+{
+    const char *begin = line.constData(), *end = begin + line.size();
+    while (begin < end && isSpace(*begin))
+        ++begin;
+    while (begin < end && isSpace(end[-1]))
+        --end;
+    const std::size_t length = std::size_t(end - begin);
+    return length == std::strlen(text) && qstrnicmp(begin, text, uint(length)) == 0;
+}
+
+bool beginsWith(const QByteArray &line, const char *name)
+{
+    return qstrnicmp(line.constData(), name, uint(std::strlen(name))) == 0;
+}
+
+bool decodes(const QByteArray &bytes, QTextCodec *codec, QString *text)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    *text = QTextCodec::codecForName(charset)->toUnicode(bytes.constData(), bytes.size(), &state);
+    *text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
@@ -32,23 +52,28 @@ bool isAscii(const QByteArray &line)
 
 QByteArray inUtf8(const QByteArray &line)
 {
+    static QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
+    static QTextCodec *const korean = QTextCodec::codecForName("EUC-KR");
     QString text;
-    if (isAscii(line) || line.toUpper().contains("CHARSET=") || decodes(line, "UTF-8", &text))
+    if (isAscii(line) || decodes(line, utf8, &text) || line.toUpper().contains("CHARSET="))
         return line;
-    if (!decodes(line, "EUC-KR", &text))
+    if (!decodes(line, korean, &text))
         text = QString::fromLatin1(line);
     return text.toUtf8();
+}
+
+bool isNameLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-';
 }
 
 /// Whether the line begins with the name of a group, or of a property that has another plain form. Most lines do
 /// not.
 bool mayDiffer(const QByteArray &line)
 {
-    static const QByteArray nameLetters("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-");
-    const auto nameEnd
-        = std::find_if(line.begin(), line.end(), [](char letter) { return !nameLetters.contains(letter); });
-    const auto beginsWith = [&](const char *name) { return qstrnicmp(line.constData(), name, qstrlen(name)) == 0; };
-    return (nameEnd != line.end() && *nameEnd == '.') || beginsWith("PHOTO") || beginsWith("CATEGORIES");
+    const auto nameEnd = std::find_if_not(line.begin(), line.end(), isNameLetter);
+    return (nameEnd != line.end() && *nameEnd == '.') || beginsWith(line, "PHOTO")
+        || beginsWith(line, "CATEGORIES");
 }
 
 QByteArray plainForm(const QByteArray &line, bool continued)
@@ -115,73 +140,84 @@ void closeLastValue(QByteArray *card)
 
 bool opensInnerCard(const QByteArray &line)
 {
-    return line.left(5).toUpper() == "AGENT" && line.trimmed().endsWith(':');
+    return beginsWith(line, "AGENT") && line.trimmed().endsWith(':');
 }
 
 }
 
-bool VCardSplitter::readLine(QByteArray *line)
+VCardSplitter::VCardSplitter(QIODevice *device) : m_device(device)
 {
-    line->clear();
-    QByteArray piece;
+    m_line.reserve(LinePiece);
+}
+
+bool VCardSplitter::readLine()
+{
+    m_line.resize(0);
+    qint64 read = 0;
     do {
-        piece = m_device->readLine(LinePiece);
-        *line += piece;
-    } while (!piece.isEmpty() && !line->endsWith('\n') && line->size() < LargestCard);
-    if (line->isEmpty())
+        const int size = m_line.size();
+        m_line.resize(size + LinePiece);
+        read = m_device->readLine(m_line.data() + size, LinePiece);
+        m_line.resize(size + int(qMax(read, qint64(0))));
+    } while (read > 0 && !m_line.endsWith('\n') && m_line.size() < LargestCard);
+    if (m_line.isEmpty())
         return false;
-    if (m_line == 0 && line->startsWith("\xef\xbb\xbf"))
-        line->remove(0, 3);
-    ++m_line;
+    if (m_lineNumber == 0 && m_line.startsWith("\xef\xbb\xbf"))
+        m_line.remove(0, 3);
+    ++m_lineNumber;
     return true;
 }
 
 bool VCardSplitter::next(VCardText *card)
 {
-    *card = VCardText();
-    QByteArray line;
+    card->problem.clear();
+    card->text.reserve(UsualCard);
+    card->text.resize(0);
     while (!m_beginRead) {
-        if (!readLine(&line))
+        if (!readLine())
             return false;
-        if (isLine(line, "END:VCARD")) {
-            card->line = m_line;
+        if (isLine(m_line, "END:VCARD")) {
+            card->line = m_lineNumber;
             card->problem = QStringLiteral("END:VCARD without BEGIN:VCARD");
             return true;
         }
-        m_beginRead = isLine(line, "BEGIN:VCARD");
+        m_beginRead = isLine(m_line, "BEGIN:VCARD");
     }
     m_beginRead = false;
-    card->line = m_line;
-    card->text = "BEGIN:VCARD\r\n";
+    card->line = m_lineNumber;
+    card->text += "BEGIN:VCARD\r\n";
 
-    QByteArray former;
+    bool continued = false, announced = false; // by the line before
     int innerCards = 0;
-    while (readLine(&line)) {
-        if (isLine(line, "BEGIN:VCARD")) {
-            if (!opensInnerCard(former)) {
+    while (readLine()) {
+        const bool ends = isLine(m_line, "END:VCARD");
+        if (isLine(m_line, "BEGIN:VCARD")) {
+            if (!announced) {
                 m_beginRead = true;
                 break;
             }
             ++innerCards;
         }
         if (innerCards > 0) {
-            innerCards -= isLine(line, "END:VCARD") ? 1 : 0;
-            former.clear();
+            innerCards -= ends ? 1 : 0;
+            continued = announced = false;
             continue;
         }
-        while (line.endsWith('\n') || line.endsWith('\r'))
-            line.chop(1);
-        const bool isEnd = isLine(line, "END:VCARD");
-        if (isEnd)
+        while (m_line.endsWith('\n') || m_line.endsWith('\r'))
+            m_line.chop(1);
+        if (ends)
             closeLastValue(&card->text);
-        if (card->text.size() < LargestCard)
-            card->text += plainForm(line, former.endsWith('=')) + "\r\n";
-        if (isEnd) {
+        if (card->text.size() < LargestCard) {
+            card->text += plainForm(m_line, continued);
+            card->text += "\r\n";
+        }
+        if (ends) {
             if (card->text.size() >= LargestCard)
                 card->problem = QStringLiteral("too large");
             return true;
         }
-        former = line;
+        continued = m_line.endsWith('=');
+        announced = opensInnerCard(m_line);
     }
     card->problem = QStringLiteral("no END:VCARD");
     return true;

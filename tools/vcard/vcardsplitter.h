@@ -21,16 +21,17 @@ struct VCardText
 class VCardSplitter
 {
 public:
-    explicit VCardSplitter(QIODevice *device) : m_device(device) { }
+    explicit VCardSplitter(QIODevice *device);
 
-    /// The next card, whole or broken; false at the end of the file.
+    /// The next card, whole or broken; false at the end of the file. `card` keeps its room from call to call.
     bool next(VCardText *card);
 
 private:
-    bool readLine(QByteArray *line);
+    bool readLine();
 
     QIODevice *const m_device;
-    int m_line = 0;
+    QByteArray m_line; ///< the last one read; keeps its room for the next
+    int m_lineNumber = 0;
     bool m_beginRead = false; ///< the last line read began the next card
 };
 

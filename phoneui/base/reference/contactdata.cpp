@@ -91,13 +91,16 @@ QString ContactData::email(int slot) const
 
 QString ContactData::bareNumber(const QString &number)
 {
+    const auto isBare = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'+' || c == u'*' || c == u'#'; };
+    if (!number.isEmpty() && std::all_of(number.begin(), number.end(), isBare))
+        return number; // as stores have kept it
     QString bare;
     bare.reserve(number.size());
     for (const QChar c : number) {
-        if (c.isDigit())
-            bare += QChar(u'0' + c.digitValue());
-        else if (c == u'+' || c == u'*' || c == u'#')
+        if (isBare(c))
             bare += c;
+        else if (c.isDigit())
+            bare += QChar(u'0' + c.digitValue());
     }
     return bare;
 }

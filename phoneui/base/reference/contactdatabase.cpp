@@ -2,8 +2,6 @@
 
 #include "groupdata.h"
 
-#include <malloc.h>
-
 #define CONTACT_COLUMNS "id, name, picture, email1, email2, email3, memo, bell, buddy_id, extra"
 
 namespace {
@@ -53,12 +51,28 @@ ContactData contactOfRow(const SqliteStatement &row)
 }
 
 /// The values of CONTACT_COLUMNS after the id. A null text stays null.
-QVariantList valuesOf(const ContactData &contact)
+SqliteValues valuesOf(const ContactData &contact)
 {
     return {contact.name, contact.picture, contact.email1,  contact.email2, contact.email3,
             contact.memo, contact.bell,    contact.buddyId, contact.extra};
 }
 
+/// The highest id that was ever given.
+int newestId(const SqliteFile &file)
+{
+    SqliteStatement id = file.statement("SELECT seq FROM sqlite_sequence WHERE name = 'contacts'");
+    return id.run() && id.next() ? id.number(0) : 0;
+}
+
+}
+
+ContactRows::ContactRows(const SqliteFile &file)
+    : contacts(file, "INSERT INTO contacts (" CONTACT_COLUMNS ") VALUES ", "(?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+      numbers(file, "INSERT INTO numbers (contact_id, slot, kind, number) VALUES ", "(?, ?, ?, ?)", &contacts),
+      memberships(file, "INSERT OR IGNORE INTO memberships (contact_id, position, group_id) VALUES ", "(?, ?, ?)",
+                  &contacts),
+      lastId(newestId(file))
+{
 }
 
 ContactDatabase::ContactDatabase(const QString &path, SqliteFile::Access access)
@@ -101,7 +115,7 @@ ContactData ContactDatabase::contact(int id) const
     return contact;
 }
 
-QVariant ContactDatabase::value(const char *sql, const QVariantList &values) const
+QVariant ContactDatabase::value(const char *sql, const SqliteValues &values) const
 {
     SqliteStatement statement = m_file.statement(sql);
     return statement.run(values) && statement.next() ? statement.value(0) : QVariant();
@@ -136,23 +150,15 @@ void ContactDatabase::refreshSearch()
         return;
     m_search.clear();
     QList<ContactData> contacts;
-    if (!readContacts(&contacts))
-        return;
-    m_search.load(contacts, version);
-    // The search has texts of its own; the room of those just read would stay with the process.
-    contacts.clear();
-    ::malloc_trim(0);
+    if (readContacts(&contacts))
+        m_search.load(std::move(contacts), version);
 }
 
-int ContactDatabase::insert(const ContactData &contact)
+bool ContactDatabase::insert(const ContactData &contact, const QList<int> &groupIds, ContactRows *rows)
 {
-    SqliteStatement statement = m_file.statement(
-        "INSERT INTO contacts (name, picture, email1, email2, email3, memo, bell, buddy_id, extra)"
-        " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
-    if (!statement.run(valuesOf(contact)))
-        return 0;
-    const int id = statement.lastId();
-    return insertNumbers(id, contact) ? id : 0;
+    const int id = ++rows->lastId;
+    return rows->contacts.add(SqliteValues{id} + valuesOf(contact)) && addNumbers(id, contact, &rows->numbers)
+        && addMemberships(id, groupIds, &rows->memberships);
 }
 
 bool ContactDatabase::update(const ContactData &contact)
@@ -160,20 +166,19 @@ bool ContactDatabase::update(const ContactData &contact)
     SqliteStatement statement = m_file.statement(
         "UPDATE contacts SET name = ?, picture = ?, email1 = ?, email2 = ?, email3 = ?, memo = ?,"
         " bell = ?, buddy_id = ?, extra = ? WHERE id = ?");
-    QVariantList values = valuesOf(contact);
+    SqliteValues values = valuesOf(contact);
     values.append(contact.id);
+    ContactRows rows(m_file);
     return statement.run(values) && statement.rowsAffected() == 1
         && m_file.statement("DELETE FROM numbers WHERE contact_id = ?").run({contact.id})
-        && insertNumbers(contact.id, contact);
+        && addNumbers(contact.id, contact, &rows.numbers) && rows.flush();
 }
 
-bool ContactDatabase::insertNumbers(int contactId, const ContactData &contact)
+bool ContactDatabase::addNumbers(int contactId, const ContactData &contact, SqliteRows *numbers)
 {
-    SqliteStatement statement
-        = m_file.statement("INSERT INTO numbers (contact_id, slot, kind, number) VALUES (?, ?, ?, ?)");
     for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
         const QString number = ContactData::bareNumber(contact.number(slot));
-        if (!number.isEmpty() && !statement.run({contactId, slot + 1, contact.numberType(slot), number}))
+        if (!number.isEmpty() && !numbers->add({contactId, slot + 1, contact.numberType(slot), number}))
             return false;
     }
     return true;
@@ -181,19 +186,19 @@ bool ContactDatabase::insertNumbers(int contactId, const ContactData &contact)
 
 bool ContactDatabase::replaceMemberships(int contactId, const QList<int> &groupIds)
 {
+    ContactRows rows(m_file);
     return m_file.statement("DELETE FROM memberships WHERE contact_id = ?").run({contactId})
-        && insertMemberships(contactId, groupIds);
+        && addMemberships(contactId, groupIds, &rows.memberships) && rows.flush();
 }
 
-bool ContactDatabase::insertMemberships(int contactId, const QList<int> &groupIds)
+/// A contact that is in no other group is in the built-in one.
+bool ContactDatabase::addMemberships(int contactId, const QList<int> &groupIds, SqliteRows *memberships)
 {
     QList<int> wanted = groupIds;
     if (wanted.isEmpty())
         wanted.append(GroupData::UnassignedId);
-    SqliteStatement statement
-        = m_file.statement("INSERT OR IGNORE INTO memberships (contact_id, position, group_id) VALUES (?, ?, ?)");
     for (int position = 0; position < wanted.size(); ++position) {
-        if (!statement.run({contactId, position, wanted.at(position)}))
+        if (!memberships->add({contactId, position, wanted.at(position)}))
             return false;
     }
     return true;

@@ -72,7 +72,7 @@ int ContactManager::saveGroup(const GroupData &group, bool modify)
         SqliteStatement statement
             = m_database->file().statement(modify ? "UPDATE groups SET name = ?, bell = ? WHERE id = ?"
                                                   : "INSERT INTO groups (name, bell) VALUES (?, ?)");
-        QVariantList values = {QLatin1String("") + group.name, group.bell};
+        SqliteValues values = {QLatin1String("") + group.name, group.bell};
         if (modify)
             values.append(group.id);
         if (!statement.run(values) || statement.rowsAffected() != 1)

@@ -88,8 +88,10 @@ int ContactManager::saveContact(const ContactData &contact, bool modify)
     const bool written = write([&] {
         if (modify)
             return m_database->update(contact);
-        id = m_database->insert(contact);
-        return id != 0 && m_database->insertMemberships(id, {});
+        ContactRows rows(m_database->file());
+        const bool inserted = m_database->insert(contact, {}, &rows) && rows.flush();
+        id = rows.lastId;
+        return inserted;
     });
     return written ? id : 0;
 }
@@ -97,17 +99,17 @@ int ContactManager::saveContact(const ContactData &contact, bool modify)
 int ContactManager::importContacts(const QList<ContactImport> &contacts, const std::function<void(int)> &progress)
 {
     const bool written = write([&] {
+        ContactRows rows(m_database->file());
         for (int i = 0; i < contacts.size(); ++i) {
             QList<int> groupIds;
             for (const QString &group : contacts.at(i).groups)
                 groupIds.append(m_database->groupIdByName(group));
-            const int id = m_database->insert(contacts.at(i).contact);
-            if (id == 0 || groupIds.contains(0) || !m_database->insertMemberships(id, groupIds))
+            if (groupIds.contains(0) || !m_database->insert(contacts.at(i).contact, groupIds, &rows))
                 return false;
             if (progress)
                 progress(i + 1);
         }
-        return true;
+        return rows.flush();
     });
     return written ? contacts.size() : 0;
 }

@@ -3,14 +3,57 @@
 #include "textfolding.h"
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
+#include <vector>
 
 namespace {
 
-/// A copy of its own: texts that stand in memory in the order in which they are read are read faster.
-QString compacted(const QString &text)
+/// A place among the names. Their first letters decide most comparisons, and stand together with those of the
+/// others.
+struct Place
 {
-    return text.isNull() ? text : QString(text.constData(), text.size());
+    quint64 letters;
+    int idx;
+};
+
+quint64 firstLetters(const QString &name)
+{
+    quint64 letters = 0;
+    for (int i = 0; i < 4; ++i)
+        letters = letters << 16 | (i < name.size() ? name.at(i).unicode() : 0);
+    return letters;
+}
+
+/// Where the contacts stand when they are in the order of their names, by code unit; those of one name keep theirs.
+std::vector<Place> orderOfNames(const QList<ContactData> &contacts)
+{
+    std::vector<Place> order;
+    order.reserve(std::size_t(contacts.size()));
+    for (int i = 0; i < contacts.size(); ++i)
+        order.push_back({firstLetters(contacts.at(i).name), i});
+    std::sort(order.begin(), order.end(), [&](const Place &a, const Place &b) {
+        if (a.letters != b.letters)
+            return a.letters < b.letters;
+        const int difference = QString::compare(contacts.at(a.idx).name, contacts.at(b.idx).name);
+        return difference != 0 ? difference < 0 : a.idx < b.idx;
+    });
+    return order;
+}
+
+/// Contacts change places, without being copied.
+void sortByName(QList<ContactData> *contacts)
+{
+    std::vector<Place> order = orderOfNames(*contacts);
+    for (int first = 0; first < contacts->size(); ++first) {
+        // What gives way goes where the next one came from, until one belongs where it was put.
+        for (int at = first; order[std::size_t(at)].idx != at;) {
+            const int from = std::exchange(order[std::size_t(at)].idx, at);
+            if (from == first)
+                break;
+            contacts->swapItemsAt(at, from);
+            at = from;
+        }
+    }
 }
 
 /// Finds a word in a long text. Looks for its two ends in many places at once, in loops that the compiler turns
@@ -66,23 +109,14 @@ private:
 
 }
 
-void ContactSearch::load(const QList<ContactData> &contacts, int dataVersion)
+void ContactSearch::load(QList<ContactData> contacts, int dataVersion)
 {
     clear();
-    QVector<int> order(contacts.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return contacts.at(a).name < contacts.at(b).name; });
-    m_contacts.reserve(order.size());
-    m_lineEnds.reserve(order.size());
-    for (const int i : qAsConst(order)) {
-        ContactData contact = contacts.at(i);
-        contact.name = compacted(contact.name);
-        for (int slot = 0; slot < ContactData::NumberCount; ++slot)
-            contact.setNumber(slot, compacted(contact.number(slot)), contact.numberType(slot));
-        m_contacts.append(contact);
+    m_contacts.swap(contacts);
+    sortByName(&m_contacts);
+    m_lineEnds.reserve(m_contacts.size());
+    for (const ContactData &contact : qAsConst(m_contacts))
         appendLine(contact);
-    }
     m_lines.squeeze();
     m_loaded = true;
     m_dataVersion = dataVersion;
@@ -98,10 +132,12 @@ void ContactSearch::clear()
 
 void ContactSearch::appendLine(const ContactData &contact)
 {
-    m_lines += TextFolding::nameLine(contact.name);
+    TextFolding::appendNameLine(&m_lines, contact.name);
     for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
-        if (!contact.number(slot).isEmpty())
-            m_lines += TextFolding::Separator + contact.number(slot);
+        if (contact.number(slot).isEmpty())
+            continue;
+        m_lines += TextFolding::Separator;
+        m_lines += contact.number(slot);
     }
     // No word holds the separator, so none is found across two lines.
     m_lines += TextFolding::Separator;

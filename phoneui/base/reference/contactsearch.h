@@ -15,7 +15,7 @@ public:
     /// Whether the contacts are missing, or older than the data of that version.
     bool needsReload(int dataVersion) const { return !m_loaded || dataVersion != m_dataVersion; }
     /// Takes the contacts; those of one name keep their order.
-    void load(const QList<ContactData> &contacts, int dataVersion);
+    void load(QList<ContactData> contacts, int dataVersion);
     void clear();
 
     const QList<ContactData> &contacts() const { return m_contacts; }

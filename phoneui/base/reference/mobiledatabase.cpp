@@ -28,7 +28,8 @@ void MobileDatabase::reload()
     ContactDatabase database(m_folder + QStringLiteral("/contacts.db"), SqliteFile::ReadOnly);
     if (!database.file().isOpen())
         return;
-    QList<ContactData> contacts = database.allContacts();
+    QList<ContactData> contacts;
+    database.readContacts(&contacts);
     if (generation.isEmpty() || contacts.size() != count
         || database.value("SELECT generation FROM device").toString() != generation) {
         qWarning() << "MobileDatabase: the files do not belong together in" << m_folder;
@@ -36,14 +37,14 @@ void MobileDatabase::reload()
     }
     for (ContactData &contact : contacts)
         contact.type = ContactData::MobileContact;
-    take(ini.value(QStringLiteral("Device/Name")), generation, contacts);
+    take(ini.value(QStringLiteral("Device/Name")), generation, std::move(contacts));
 }
 
-void MobileDatabase::take(const QString &deviceName, const QString &generation, const QList<ContactData> &contacts)
+void MobileDatabase::take(const QString &deviceName, const QString &generation, QList<ContactData> contacts)
 {
     m_deviceName = deviceName;
     m_generation = generation;
-    m_search.load(contacts, 0);
+    m_search.load(std::move(contacts), 0);
     m_positions.clear();
     for (int i = 0; i < m_search.contacts().size(); ++i)
         m_positions.insert(m_search.contacts().at(i).id, i);

@@ -25,7 +25,7 @@ class CallDatabase
 public:
     explicit CallDatabase(const QString &path) : m_file(path, callSchema()) { }
 
-    QList<CallRecord> calls(const char *sql, const QVariantList &values) const
+    QList<CallRecord> calls(const char *sql, const SqliteValues &values) const
     {
         QList<CallRecord> calls;
         SqliteStatement rows = m_file.statement(sql);

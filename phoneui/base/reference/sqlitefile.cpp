@@ -5,11 +5,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlDriver>
 #include <QSqlError>
+#include <QSqlQuery>
 #include <QUrl>
 #include <QUuid>
 
 #include <array>
+#include <sqlite3.h>
 
 namespace {
 
@@ -22,8 +26,6 @@ constexpr int BusyMs = 100;
 // At start another process may be making the same file.
 constexpr int BusyAtStartMs = 2000;
 
-enum ResultCode { Corrupt = 11, NotADatabase = 26 };
-
 int resultCode(const QSqlError &error)
 {
     // The low byte of an extended code is the primary one.
@@ -35,18 +37,6 @@ QString busyPragma(int milliseconds)
     return QStringLiteral("PRAGMA busy_timeout = %1").arg(milliseconds);
 }
 
-}
-
-bool SqliteStatement::run(const QVariantList &values)
-{
-    if (!m_query)
-        return false;
-    for (int i = 0; i < values.size(); ++i)
-        m_query->bindValue(i, values.at(i));
-    if (m_query->exec())
-        return true;
-    qWarning() << "SqliteStatement:" << m_query->lastError().databaseText() << "in" << m_query->lastQuery();
-    return false;
 }
 
 SqliteFile::SqliteFile(const QString &path, const SqliteSchema &schema, Access access)
@@ -95,7 +85,7 @@ SqliteFile::Verdict SqliteFile::judgeError(const QSqlError &error, QString *reas
 {
     *reason = error.databaseText();
     const int code = resultCode(error);
-    return code == Corrupt || code == NotADatabase ? Verdict::MoveAside : Verdict::Unusable;
+    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB ? Verdict::MoveAside : Verdict::Unusable;
 }
 
 /// What can be told before SQLite sees the file: it opens garbage without a word, and may write into it.
@@ -239,21 +229,26 @@ bool SqliteFile::moveAside(const QString &reason) const
     return true;
 }
 
-SqliteStatement SqliteFile::statement(const char *sql) const
+SqliteStatement SqliteFile::statement(const QByteArray &sql) const
 {
     if (!m_open)
         return SqliteStatement({});
-    QSharedPointer<QSqlQuery> &query = m_statements[sql];
-    if (!query) {
-        query.reset(new QSqlQuery(QSqlDatabase::database(m_connection, false)));
-        query->setForwardOnly(true);
-        if (!query->prepare(QString::fromUtf8(sql))) {
-            qWarning() << "SqliteFile:" << query->lastError().databaseText() << "in" << sql;
-            query.reset();
-            return SqliteStatement({});
-        }
+    QSharedPointer<sqlite3_stmt> &statement = m_statements[sql];
+    if (!statement) {
+        sqlite3_stmt *prepared = nullptr;
+        sqlite3_prepare_v3(handle(), sql.constData(), sql.size(), SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
+        if (!prepared)
+            qWarning() << "SqliteFile:" << sqlite3_errmsg(handle()) << "in" << sql;
+        statement.reset(prepared, sqlite3_finalize);
     }
-    return SqliteStatement(query);
+    return SqliteStatement(statement);
+}
+
+sqlite3 *SqliteFile::handle() const
+{
+    const QVariant handle = QSqlDatabase::database(m_connection, false).driver()->handle();
+    return qstrcmp(handle.typeName(), "sqlite3*") == 0 ? *static_cast<sqlite3 *const *>(handle.constData())
+                                                       : nullptr;
 }
 
 bool SqliteFile::write(const std::function<bool()> &work)

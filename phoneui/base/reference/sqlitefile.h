@@ -1,16 +1,19 @@
 #ifndef SQLITEFILE_H
 #define SQLITEFILE_H
 
+#include "sqlitestatement.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QSharedPointer>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 
 #include <functional>
+
+class QSqlError;
+struct sqlite3;
 
 /// What one kind of database file of this phone looks like.
 struct SqliteSchema
@@ -21,33 +24,6 @@ struct SqliteSchema
     QList<QStringList> migrations;
     /// Statements that can be prepared only where every table has every column.
     QStringList probes;
-};
-
-/// One run of a prepared statement. It is finished when this goes out of scope, so that no read stays open and
-/// holds the file back from being checkpointed.
-class SqliteStatement
-{
-    Q_DISABLE_COPY_MOVE(SqliteStatement)
-
-public:
-    explicit SqliteStatement(const QSharedPointer<QSqlQuery> &query) : m_query(query) { }
-    ~SqliteStatement()
-    {
-        if (m_query)
-            m_query->finish();
-    }
-
-    /// Runs with these values for its question marks; false, with the reason in the log, when it fails.
-    bool run(const QVariantList &values = {});
-    bool next() { return m_query && m_query->next(); }
-    QVariant value(int column) const { return m_query->value(column); }
-    QString text(int column) const { return m_query->value(column).toString(); }
-    int number(int column) const { return m_query->value(column).toInt(); }
-    int rowsAffected() const { return m_query ? m_query->numRowsAffected() : 0; }
-    int lastId() const { return m_query ? m_query->lastInsertId().toInt() : 0; }
-
-private:
-    const QSharedPointer<QSqlQuery> m_query;
 };
 
 /// One open SQLite file: checked before it is trusted, brought to the newest version, written in transactions.
@@ -64,8 +40,8 @@ public:
     ~SqliteFile();
 
     bool isOpen() const { return m_open; }
-    /// A prepared statement, kept for the next time. `sql` is a literal.
-    SqliteStatement statement(const char *sql) const;
+    /// A prepared statement, kept for the next time.
+    SqliteStatement statement(const QByteArray &sql) const;
     /// Runs `work` in one transaction, which counts only if `work` and the commit succeed.
     bool write(const std::function<bool()> &work);
     /// Another number whenever another connection has changed the file.
@@ -85,6 +61,8 @@ private:
     bool moveAside(const QString &reason) const;
     void disconnectFile();
 
+    /// The connection for statements that are run often; null while the file is closed.
+    sqlite3 *handle() const;
     bool execute(const QString &sql) const;
     /// The first value of the first row; invalid when there is none.
     QVariant ask(const QString &sql, QSqlError *error = nullptr) const;
@@ -93,7 +71,7 @@ private:
     const SqliteSchema m_schema;
     const Access m_access;
     const QString m_connection;
-    mutable QHash<QByteArray, QSharedPointer<QSqlQuery>> m_statements;
+    mutable QHash<QByteArray, QSharedPointer<sqlite3_stmt>> m_statements;
     bool m_open = false;
     bool m_writable = false;
 };

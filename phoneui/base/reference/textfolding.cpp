@@ -170,9 +170,9 @@ bool holds(const Buffer &text, const Buffer &word)
     return std::search(text.begin(), text.end(), word.begin(), word.end()) != text.end();
 }
 
-QString toString(const Buffer &buffer)
+void append(QString *text, const Buffer &buffer)
 {
-    return QString(reinterpret_cast<const QChar *>(buffer.constData()), buffer.size());
+    text->append(reinterpret_cast<const QChar *>(buffer.constData()), buffer.size());
 }
 
 }
@@ -181,19 +181,22 @@ QString TextFolding::fold(const QString &text)
 {
     Buffer folded;
     appendFolded(folded, text);
-    return toString(folded);
+    return QString(reinterpret_cast<const QChar *>(folded.constData()), folded.size());
 }
 
-QString TextFolding::nameLine(const QString &name)
+void TextFolding::appendNameLine(QString *lines, const QString &name)
 {
     Buffer folded, initials, wordInitials;
     appendFolded(folded, name);
     appendInitials(initials, folded, true);
     appendInitials(wordInitials, folded, false);
-    QString line = toString(folded) + Separator + toString(initials);
-    if (wordInitials != initials)
-        line += Separator + toString(wordInitials);
-    return line;
+    append(lines, folded);
+    *lines += Separator;
+    append(lines, initials);
+    if (wordInitials != initials) {
+        *lines += Separator;
+        append(lines, wordInitials);
+    }
 }
 
 bool TextFolding::nameHolds(const QString &name, const QString &word)

@@ -13,9 +13,9 @@ constexpr QChar Separator = u'\n';
 /// "처" is the beginning of "철". A consonant that stands alone is an initial one, "ㄳ" is two of them.
 QString fold(const QString &text);
 
-/// The folded name, the initial consonants of its Korean syllables with the first letters of its other words,
-/// and the first letters of all words.
-QString nameLine(const QString &name);
+/// Appends the folded name, the initial consonants of its Korean syllables with the first letters of its other
+/// words, and the first letters of all words.
+void appendNameLine(QString *lines, const QString &name);
 
 /// Whether the line of the name holds the folded word; an empty word never does. Makes neither of them.
 bool nameHolds(const QString &name, const QString &word);

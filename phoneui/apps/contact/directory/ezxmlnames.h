@@ -30,7 +30,8 @@ struct EzxmlName
 
     EzxmlName(const char *from, std::size_t size, std::uint64_t itsKey) : text(from), length(size), key(itsKey) { }
 
-    /// From 0 to 63.
+    static const std::size_t hashes = 64;
+    /// Below `hashes`.
     unsigned hash() const { return static_cast<unsigned>((key * 0x9e3779b97f4a7c15U) >> 58); }
 
     /// Whether the text up to `end` starts with this name.

@@ -44,9 +44,13 @@ private:
         EzxmlName name;
         ezxml *lastChild;
         EzxmlNames::Scope names;
-        std::size_t firstJoined; ///< in m_joined
-        char *run; ///< the only run of text so far, which stays where it is; null for several
-        std::size_t textLength;
+        std::size_t firstRun; ///< in m_runs
+        std::size_t textLength; ///< of all its runs
+    };
+    struct Run
+    {
+        char *text;
+        std::size_t length;
     };
 
     // Each of these takes the place behind the mark that tells what follows, and returns the place behind what it
@@ -74,16 +78,16 @@ private:
     void setText(ezxml *element, char *text);
     char **attributeList();
     void close();
-    /// Joins a text to those that the open element has so far.
-    void addText(char *text, std::size_t length);
-    /// The same for one that stands in the document as it is.
+    /// A piece of the open element's text; it stays where it is until the element is closed.
     void addRun(char *text, std::size_t length);
+    /// The runs from the first to the top as one text.
+    char *joined(const Open &open);
+    bool isJoined(const Run *run, const Run &text) const;
     /// Most are a line feed and spaces: with a copy of fixed size they need no loop.
-    bool isShortRun(const char *text, std::size_t length) const
+    bool isShort(const Run &run) const
     {
-        return length <= s_shortRun && text <= m_lastReach && text >= m_root->s;
+        return run.length <= s_shortRun && distance(m_root->s, run.text) < m_reachable;
     }
-    void append(const char *text, std::size_t length) { std::memcpy(m_joined.push(length), text, length); }
     /// False after a fault.
     bool decode(char **text, std::size_t *length, EzxmlEntities::Kind kind);
     void finish();
@@ -95,11 +99,12 @@ private:
     bool startsWith(const char *at, std::string_view word) const;
     /// The place of these bytes, or null.
     char *findClosing(char *at, std::string_view word) const;
-    char *fail(const char *at, const std::string &fault);
+    [[gnu::cold, gnu::noinline]] char *fail(const char *at, std::string_view fault);
 
     ezxml_root *m_root;
     char *m_end;
     const char *m_lastReach = nullptr; ///< the last place from which EzxmlText::reach bytes can be read
+    std::size_t m_reachable = 0; ///< from so many places, which come first
     char m_last = '\0';
     bool m_hasRoot = false;
     EzxmlMemory &m_memory;
@@ -108,11 +113,11 @@ private:
     EzxmlInstructions m_instructions;
     EzxmlStack<Open> m_open;
     EzxmlNames m_names;
-    /// The runs of text of those open elements that have several, one element's behind the other's.
-    EzxmlStack<char> m_joined;
+    EzxmlStack<Run> m_runs; ///< the texts of the open elements, one element's behind the other's
+    Run m_lastJoined[EzxmlName::hashes] = {}; ///< the last joined text of an element, by a hash of its name
     EzxmlStack<char *> m_attributes; ///< names and values of the tag that is read
     char *m_gap = nullptr; ///< where the last tag or the like ended
-    EzxmlLeaf m_leaves[64]; ///< what came behind a tag the last time, by a hash of its name
+    EzxmlLeaf m_leaves[EzxmlName::hashes]; ///< what came behind a tag the last time, by a hash of its name
     EzxmlLeaf m_nothing;
     EzxmlLeaf *m_expected = &m_nothing;
     std::ptrdiff_t m_lostLines = 0; ///< line feeds that a NUL has replaced
@@ -132,8 +137,10 @@ EzxmlParser::EzxmlParser(ezxml_root *root, char *text, std::size_t length)
     m_memory.expect(length * s_recordBytes);
     root->s = text;
     root->e = m_end;
-    if (distance(text, m_end) >= reach)
+    if (distance(text, m_end) >= reach) {
         m_lastReach = m_end - reach;
+        m_reachable = distance(text, m_lastReach) + 1;
+    }
     m_entities.setLastReach(m_lastReach);
 }
 
@@ -193,28 +200,7 @@ char *EzxmlParser::readOpenTag(char *at)
     return readOpened(behind(at), element, tag);
 }
 
-char *EzxmlParser::readAttributes(char *at, const EzxmlName &tag)
-{
-    for (;;) {
-        if (*at == ' ')
-            ++at;
-        if (is(*at, NameStart)) {
-            at = readAttribute(at, tag);
-            if (!at)
-                return nullptr;
-        } else if (*at == '>') {
-            return at;
-        } else if (is(*at, Space)) {
-            at = skip(at, Space);
-        } else if (byte(at) == '>' || (*at == '/' && byte(at + 1) == '>')) {
-            return at;
-        } else {
-            return fail(at, *at == '<' ? "unexpected <" : "missing >");
-        }
-    }
-}
-
-char *EzxmlParser::readAttribute(char *at, const EzxmlName &tag)
+[[gnu::always_inline]] inline char *EzxmlParser::readAttribute(char *at, const EzxmlName &tag)
 {
     char *const name = at;
     char *const nameEnd = findNameEnd(at, m_lastReach);
@@ -257,6 +243,27 @@ char *EzxmlParser::readAttribute(char *at, const EzxmlName &tag)
     return behind(mark);
 }
 
+char *EzxmlParser::readAttributes(char *at, const EzxmlName &tag)
+{
+    for (;;) {
+        if (*at == ' ')
+            ++at;
+        if (is(*at, NameStart)) {
+            at = readAttribute(at, tag);
+            if (!at)
+                return nullptr;
+        } else if (*at == '>') {
+            return at;
+        } else if (is(*at, Space)) {
+            at = skip(at, Space);
+        } else if (byte(at) == '>' || (*at == '/' && byte(at + 1) == '>')) {
+            return at;
+        } else {
+            return fail(at, *at == '<' ? "unexpected <" : "missing >");
+        }
+    }
+}
+
 char *EzxmlParser::readCloseTag(char *at)
 {
     if (!m_open.isEmpty() && m_open.top().name.opens(at, m_end)) {
@@ -294,7 +301,7 @@ char *EzxmlParser::readText(char *at)
         std::size_t length = distance(at, mark);
         if (!decode(&at, &length, EzxmlEntities::Content))
             return nullptr;
-        addText(at, length);
+        addRun(at, length);
     }
     return mark;
 }
@@ -318,7 +325,7 @@ char *EzxmlParser::readFirstText(char *at, ezxml *element, const EzxmlName &tag)
 
 [[gnu::always_inline]] inline char *EzxmlParser::readOpened(char *at, ezxml *element, const EzxmlName &tag)
 {
-    *m_open.push() = {element, tag, nullptr, m_names.open(), m_joined.size(), nullptr, 0};
+    *m_open.push() = {element, tag, nullptr, m_names.open(), m_runs.size(), 0};
     m_expected = leafBehind(tag);
     return at;
 }
@@ -389,7 +396,7 @@ char *EzxmlParser::readCharacterData(char *at)
     *closing = '\0';
     if (find(at, closing, '\r') && !decode(&at, &length, EzxmlEntities::CharacterData))
         return nullptr;
-    addText(at, length);
+    addRun(at, length);
     return behind(closing + 2);
 }
 
@@ -477,14 +484,14 @@ char **EzxmlParser::attributeList()
 void EzxmlParser::close()
 {
     const Open &open = m_open.top();
-    ezxml *element = open.element;
-    if (open.textLength > 0 && open.run) {
-        setText(element, open.run);
-    } else if (open.textLength > 0) {
-        element->txt = m_memory.text(m_joined.begin() + open.firstJoined, open.textLength);
-        element->flags |= EZXML_TXTM;
-        m_joined.truncate(open.firstJoined);
+    const std::size_t runs = m_runs.size() - open.firstRun;
+    if (runs == 1) {
+        setText(open.element, m_runs.top().text);
+    } else if (runs > 1) {
+        open.element->txt = joined(open);
+        open.element->flags |= EZXML_TXTM;
     }
+    m_runs.truncate(open.firstRun);
     m_names.close(open.names);
     m_open.pop();
     if (m_open.isEmpty())
@@ -493,36 +500,41 @@ void EzxmlParser::close()
 
 [[gnu::always_inline]] inline void EzxmlParser::addRun(char *text, std::size_t length)
 {
-    Open &open = m_open.top();
-    if (open.textLength == 0) {
-        open.run = text;
-    } else if (!isShortRun(text, length) || (open.run && !isShortRun(open.run, open.textLength))) {
-        addText(text, length);
-        return;
-    } else {
-        if (open.run)
-            std::memcpy(m_joined.push(open.textLength, s_shortRun), open.run, s_shortRun);
-        open.run = nullptr;
-        std::memcpy(m_joined.push(length, s_shortRun), text, s_shortRun);
-    }
-    open.textLength += length;
-}
-
-void EzxmlParser::addText(char *text, std::size_t length)
-{
     if (length == 0)
         return;
-    Open &open = m_open.top();
-    if (open.textLength == 0) {
-        open.run = text;
-    } else {
-        if (open.run) {
-            append(open.run, open.textLength);
-            open.run = nullptr;
-        }
-        append(text, length);
+    *m_runs.push() = {text, length};
+    m_open.top().textLength += length;
+}
+
+char *EzxmlParser::joined(const Open &open)
+{
+    const Run *run = &m_runs[open.firstRun];
+    // Elements of one name are mostly indented alike, and then share one text.
+    Run &last = m_lastJoined[open.name.hash()];
+    if (last.length == open.textLength && isJoined(run, last))
+        return last.text;
+    char *to = m_memory.array<char>(open.textLength + s_shortRun);
+    last = {to, open.textLength};
+    for (; run != m_runs.end(); ++run) {
+        if (isShort(*run))
+            std::memcpy(to, run->text, s_shortRun);
+        else
+            std::memcpy(to, run->text, run->length);
+        to += run->length;
     }
-    open.textLength += length;
+    *to = '\0';
+    return last.text;
+}
+
+bool EzxmlParser::isJoined(const Run *run, const Run &text) const
+{
+    const char *at = text.text;
+    for (; run != m_runs.end(); ++run) {
+        if (isShort(*run) ? !sameShort(at, run->text, run->length) : std::memcmp(at, run->text, run->length) != 0)
+            return false;
+        at += run->length;
+    }
+    return true;
 }
 
 bool EzxmlParser::decode(char **text, std::size_t *length, EzxmlEntities::Kind kind)
@@ -569,10 +581,10 @@ char *EzxmlParser::findClosing(char *at, std::string_view word) const
     return nullptr;
 }
 
-char *EzxmlParser::fail(const char *at, const std::string &fault)
+char *EzxmlParser::fail(const char *at, std::string_view fault)
 {
     const int line = static_cast<int>(1 + m_lostLines + std::count(static_cast<const char *>(m_root->s), at, '\n'));
-    std::snprintf(m_root->err, sizeof m_root->err, "[error near line %d]: %s", line, fault.c_str());
+    std::snprintf(m_root->err, sizeof m_root->err, "[error near line %d]: %s", line, std::string(fault).c_str());
     return nullptr;
 }
 

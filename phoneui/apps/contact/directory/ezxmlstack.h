@@ -21,6 +21,7 @@ public:
     bool isEmpty() const { return m_behind == m_first; }
     T *begin() { return m_first; }
     T *end() { return m_behind; }
+    const T *end() const { return m_behind; }
     T &operator[](std::size_t index) { return m_first[index]; }
     const T &operator[](std::size_t index) const { return m_first[index]; }
     T &top() { return m_behind[-1]; }
@@ -31,7 +32,8 @@ public:
     /// A place on top, with room for `spare` more behind it.
     T *push(std::size_t count = 1, std::size_t spare = 0)
     {
-        if (static_cast<std::size_t>(m_limit - m_behind) < count + spare)
+        if (reinterpret_cast<char *>(m_limit) - reinterpret_cast<char *>(m_behind)
+            < static_cast<std::ptrdiff_t>((count + spare) * sizeof(T)))
             grow(count + spare);
         T *place = m_behind;
         m_behind += count;

@@ -125,6 +125,16 @@ inline __m128i within(__m128i bytes, char low, char high)
 }
 #endif
 
+/// The same for 1 to 16 bytes, of which 16 may be read.
+inline bool sameShort(const char *a, const char *b, std::size_t length)
+{
+#ifdef __SSE2__
+    return (~bits(_mm_cmpeq_epi8(block(a), block(b))) & 0xffff) << (reach - length) == 0;
+#else
+    return std::memcmp(a, b, length) == 0;
+#endif
+}
+
 /// Whether two texts agree in their first `length` bytes, from 1 to 32, of which as many as `reach` may be read.
 inline bool same(const char *a, const char *b, std::size_t length)
 {

@@ -13,6 +13,12 @@ ezxml_root *rootOf(ezxml *element)
     return reinterpret_cast<ezxml_root *>(element);
 }
 
+/// Most names differ in their first letter.
+bool same(const char *a, const char *b)
+{
+    return *a == *b && std::strcmp(a, b) == 0;
+}
+
 /// Takes an element out of its parent and links those that stay anew.
 void cut(const ezxml *element)
 {
@@ -32,19 +38,6 @@ void cut(const ezxml *element)
 }
 
 // Behind the null pointer that ends a list of attributes stand its flags.
-namespace {
-
-bool same(const char *a, const char *b)
-{
-    while (*a == *b && *a) {
-        ++a;
-        ++b;
-    }
-    return *a == *b;
-}
-
-}
-
 char *const EZXML_NIL[] = {nullptr, EzxmlDocument::noText};
 
 char EzxmlDocument::noText[] = "";
