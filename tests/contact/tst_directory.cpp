@@ -19,19 +19,16 @@ class DirectoryTest : public NeighbourTest<Contact>
 private slots:
     void requests()
     {
-        const struct
-        {
-            const char *word;
-            int method;
-            const char *says; ///< a notice, or how the request ends
-        } cases[] = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
-                     {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
-                     {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
+        // A word, the method, and a notice or how the request ends.
+        const QList<std::tuple<const char *, int, const char *>> cases
+            = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
+               {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
+               {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
         m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=server\n");
         m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=secret\n");
-        for (const auto &one : cases) {
+        for (const auto &[word, method, says] : cases) {
             DirectorySettings::setPage(7);
-            SearchDir form(nullptr, one.word);
+            SearchDir form(nullptr, word);
             QVERIFY(showAndActivate(&form));
             QString said;
             QTimer::singleShot(50, &form, [&] {
@@ -40,9 +37,9 @@ private slots:
                     toast->timeout();
                 }
             });
-            form.searchBegin(form.getSearchWord(), one.method);
+            form.searchBegin(form.getSearchWord(), method);
             const QString request = sent().value(0);
-            QVERIFY2((said + request).endsWith(one.says), qPrintable(said + request));
+            QVERIFY2((said + request).endsWith(says), qPrintable(said + request));
             QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
             QCOMPARE(int(m_phone->core.getIMEStatus()), int(said.startsWith("Input") ? IMENumeric : IMESmall));
         }
@@ -50,29 +47,25 @@ private slots:
 
     void pagesOfATotal()
     {
-        const struct
-        {
-            int total, page;
-            const char *place, *pageKeys;
-        } cases[] = {{0, 3, "", " "},
-                     {1, 1, " | 1/1page", " "},
-                     {20, 1, " | 1/1page", " "},
-                     {21, 1, " | 1/2page", " >"},
-                     {40, 2, " | 2/2page", "< "},
-                     {41, 2, " | 2/3page", "< >"},
-                     {41, 4, " | 4/3page", "< >"}}; // beyond: as they were
+        // The total, the page, and the title and page keys for them; beyond the last they stay.
+        const QList<std::tuple<int, int, const char *, const char *>> cases = {{0, 3, "", " "},
+                                                                               {20, 1, " | 1/1page", " "},
+                                                                               {21, 1, " | 1/2page", " >"},
+                                                                               {40, 2, " | 2/2page", "< "},
+                                                                               {41, 2, " | 2/3page", "< >"},
+                                                                               {41, 4, " | 4/3page", "< >"}};
         const QList<QList<DirectoryData>> none, some{entry({{"name", "A"}, {"number", "1"}})};
-        for (const auto &one : cases) {
+        for (const auto &[total, page, place, pageKeys] : cases) {
             DirectorySettings::setPage(2);
             SearchDirResult results(nullptr, some, 50);
             QVERIFY(showAndActivate(&results));
-            DirectorySettings::setPage(one.page);
-            results.setupResultData(one.total ? some : none, one.total);
-            QCOMPARE(title(), QString("Directory Service") + one.place);
-            QCOMPARE(softKeys(&results).mid(2).join(' '), QString(one.pageKeys));
-            QCOMPARE(softKeys(&results).first(), QString(one.total ? "Call" : ""));
-            QCOMPARE(list(&results)->isVisible(), one.total > 0);
-            QCOMPARE(DirectorySettings::page(), one.total ? one.page : 1);
+            DirectorySettings::setPage(page);
+            results.setupResultData(total ? some : none, total);
+            QCOMPARE(title(), QString("Directory Service") + place);
+            QCOMPARE(softKeys(&results).mid(2).join(' '), QString(pageKeys));
+            QCOMPARE(softKeys(&results).first(), QString(total ? "Call" : ""));
+            QCOMPARE(list(&results)->isVisible(), total > 0);
+            QCOMPARE(DirectorySettings::page(), total ? page : 1);
         }
     }
 
@@ -109,32 +102,30 @@ private slots:
     void numberOfTheFocusedRow()
     {
         const QString whole(21, '1'), mobile(25, '4');
-        const struct
-        {
-            int digits, row;
-            QString called;
-        } cases[] = {{20, 0, whole.left(20)}, {21, 0, whole.left(18) + "..."},
-                     {21, 1, whole},          {21, 2, ""},
-                     {21, 5, mobile},         {0, 1, ""}};
+        // How many digits the number has, the row, and the number that is called there.
+        const QList<std::tuple<int, int, QString>> cases
+            = {{20, 0, whole.left(20)}, {21, 0, whole.left(18) + "..."},
+               {21, 1, whole},          {21, 2, ""},
+               {21, 5, mobile},         {0, 1, ""}};
         ListeningApp messages("message");
-        for (const auto &one : cases) {
-            DirectorySearchDetail detail(nullptr,
-                                         entry({{"name", "Anna"},
-                                                {"number", whole.left(one.digits)},
-                                                {"cell", "3", "phone"},
-                                                {"car", mobile, "phone"},
-                                                {"room", "7"}}));
+        for (const auto &[digits, row, called] : cases) {
+            const QList<QStringList> fields{{"name", "Anna"},
+                                            {"number", whole.left(digits)},
+                                            {"cell", "3", "phone"},
+                                            {"car", mobile, "phone"},
+                                            {"room", "7"}};
+            DirectorySearchDetail detail(nullptr, entry(fields));
             QVERIFY(showAndActivate(&detail));
-            for (int i = 0; i < one.row; ++i)
+            for (int i = 0; i < row; ++i)
                 click(Qt::Key_Down);
-            const bool offered = !one.called.isEmpty();
+            const bool offered = !called.isEmpty();
             QCOMPARE(softKeys(&detail), QStringList({"Save", offered ? "Call" : "", offered ? "Message" : "", ""}));
-            if (one.row != 1)
+            if (row != 1)
                 click(Qt::Key_Return); // acts on the number alone
             QVERIFY(detail.isVisible());
             click(Qt::Key_Context3);
             click(Qt::Key_Context2);
-            const QStringList both{"message newMessage(str) " + one.called, Close, call(one.called, "Anna")};
+            const QStringList both{"message newMessage(str) " + called, Close, call(called, "Anna")};
             QCOMPARE(sent(), offered ? both : QStringList());
         }
     }
