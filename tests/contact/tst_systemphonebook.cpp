@@ -169,31 +169,32 @@ private slots:
     void commandsCloseIt_data()
     {
         QTest::addColumn<QString>("command");
-        QTest::addColumn<QList<int>>("keys");
-        const int ok = Qt::Key_Return, groups = Qt::Key_Context1, escape = Qt::Key_Escape;
+        QTest::addColumn<QString>("road");
         for (const char *command : {"CloseContact()", "viewContact(str)"}) {
-            for (const QList<int> &keys :
-                 {QList<int>{ok}, {ok, groups}, {ok, groups, ok}, {ok, groups, ok, groups, escape, escape}})
-                QTest::addRow("%s after %d keys", command, keys.size()) << command << keys;
+            for (const char *road : {"O", "OG", "OGO", "OGOGEE"}) // open, groups, escape
+                QTest::addRow("%s after %s", command, road) << command << road;
         }
     }
 
     void commandsCloseIt()
     {
         QFETCH(QString, command);
-        QFETCH(QList<int>, keys);
+        QFETCH(QString, road);
         provision(people(12));
         ContactScreen contact;
         QVERIFY(contact.open());
         PhoneScript script;
         script.keys({Qt::Key_Down});
         QByteArrayList shown{"Contact"};
-        for (const int key : qAsConst(keys)) {
-            if (key == Qt::Key_Escape)
+        for (const QChar step : road) {
+            if (step == 'E')
                 shown.removeLast();
             else
-                shown.append(key == Qt::Key_Return ? "SystemPhonebookListWidget" : "SystemPhonebookCategoryWidget");
-            script.keys({key}).untilActive(shown.last());
+                shown.append(step == 'O' ? "SystemPhonebookListWidget" : "SystemPhonebookCategoryWidget");
+            script.opens(step == 'E'       ? Qt::Key_Escape
+                             : step == 'O' ? Qt::Key_Return
+                                           : Qt::Key_Context1,
+                         shown.last());
         }
         script.call([&] { m_phone->core.sendAppMsg("contact", command, QByteArray()); });
         if (command.startsWith("view"))
