@@ -140,8 +140,8 @@ private slots:
         plant(path);
         const bool isTaken = QTest::currentDataTag() == QByteArray("file");
         const AnswerFile answer(m_phone->home, path);
-        QCOMPARE(content(answer.path()).contains("PROXY"), isTaken);
         QCOMPARE(answer.isOpen(), isTaken);
+        QVERIFY(!isTaken || content(answer.path()).contains("PROXY"));
         QCOMPARE(QFile::exists(path), !isTaken);
         QVERIFY(content(victim()).contains("PROXY"));
     }
