@@ -1,12 +1,9 @@
 #include "contactmanager.h"
-#include "message.h"
 #include "phonehome.h"
 #include "testcase.h"
 #include "wpsmcontactmanager.h"
 
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -58,32 +55,6 @@ private slots:
         QCOMPARE(runAtHome("phonebook", {"import", write("b.vcf", "no cards here")}), 1);
         QVERIFY(m_error.contains("no contact could be read"));
         QCOMPARE(ContactManager(m_home->contactDatabase()).getCountOfContact(), 1);
-    }
-
-    void runningPhoneIsTold()
-    {
-        QVERIFY(m_home->create());
-        QLocalServer phone;
-        QVERIFY(phone.listen(m_home->peerSocket()));
-        QStringList heard;
-        connect(&phone, &QLocalServer::newConnection, this, [&] {
-            QLocalSocket *socket = phone.nextPendingConnection();
-            connect(socket, &QLocalSocket::readChannelFinished, this, [socket, &heard] {
-                const QByteArray frame = socket->readAll();
-                Message message;
-                if (message_Parse(frame.constData() + 4, frame.size() - 4, &message))
-                    heard.append(message.address + ' ' + message.signature + ' '
-                                 + message.arguments.value(0).toByteArray());
-            });
-        });
-        const QString file = write("a.vcf", twoPeople());
-        QCOMPARE(runAtHome("phonebook", {"import", file}), 0);
-        QCOMPARE(runAtHome("wpsm", {"connect", file}), 0);
-        QCOMPARE(runAtHome("wpsm", {"disconnect"}), 0);
-        QTRY_COMPARE(heard,
-                     QStringList({"contact/PHONEBOOK api2ui_noti_contact_changed() ",
-                                  "contact/WPSM wpsm2ui_noti_device_connected(int) 2",
-                                  "contact/WPSM wpsm2ui_noti_device_disconnected(int) 2"}));
     }
 
     void deviceComesAndGoes()
