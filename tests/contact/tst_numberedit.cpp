@@ -6,7 +6,6 @@
 #include "selectpopup.h"
 #include "selectpopuplistview.h"
 #include "testmain.h"
-#include "textlimits.h"
 
 #include <QLineEdit>
 
@@ -18,17 +17,6 @@ class NumberEditTest : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void cutsNames()
-    {
-        const QString latin(29, 'x'), korean(16, QChar(0xae40)), beyondAscii(31, QChar(0xff));
-        for (const auto &[text, kept] : {std::pair(latin + "xx", 30),
-                                         {korean, 15},
-                                         {beyondAscii, 30},
-                                         {latin + korean, 29},
-                                         {latin.mid(1) + korean, 29}})
-            QCOMPARE(checkMaxString(text, 30), text.left(kept));
-    }
-
     void keepsEveryFieldOfAContact()
     {
         ContactData contact;
