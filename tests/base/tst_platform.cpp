@@ -7,26 +7,21 @@
 #include "textcodec.h"
 #include "topresencesocket.h"
 
-#include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-namespace {
-
 /// An application that keeps what it receives.
-class Listener : public QObject, public BaseAppInterface
+class Listener final : public BaseAppInterface
 {
-    Q_OBJECT
-    Q_INTERFACES(BaseAppInterface)
-
 public:
     explicit Listener(const QString &name) : BaseAppInterface(name, nullptr) { }
+    ~Listener() = default;
     bool start(QWidget *, void *) override { return true; }
     void end() override { }
     void receiveMsg(const QString &command, const QByteArray &payload) override
     {
-        received.append(command + QLatin1Char('|') + QString::fromLatin1(payload));
+        received.append(command + '|' + payload);
         if (onReceive)
             onReceive();
     }
@@ -35,23 +30,105 @@ public:
     std::function<void()> onReceive;
 };
 
-}
-
 /// The services of the platform library in a home of their own.
 class TestPlatform : public TestCase
 {
     Q_OBJECT
 
 private slots:
-    void home();
-    void unusableHome();
-    void messages();
-    void messageInsideAHandler();
-    void languages();
-    void settings();
-    void configurationPaths();
-    void callsAndPresence();
-    void texts();
+    void home()
+    {
+        QCOMPARE(qEnvironmentVariable("CONFIG_LIST"), m_home->configList());
+        QFile photo(m_home->photoFolder() + "/x.png");
+        QVERIFY(photo.open(QIODevice::WriteOnly));
+        QVERIFY(QFile::exists("photo:x.png"));
+        set("config/secret.ini", "Prov/Password", "a,b;c");
+        QVERIFY(m_home->create()); // keeps what is there
+        QCOMPARE(m_core->getProvPassword(), QString("a,b;c"));
+
+        m_core.reset();
+        QVERIFY(QDir().rename(m_home->root(), m_dir->filePath("moved")));
+        const PhoneHome moved(m_dir->filePath("moved"));
+        QVERIFY(moved.create());
+        moved.enter();
+        QCOMPARE(getConfFilePath("COMMON", "IPC_CONF"), moved.path("config/ipc.conf"));
+    }
+
+    void unusableHome()
+    {
+        QFile file(m_dir->filePath("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        expectWarning("cannot make the folder");
+        QVERIFY(!PhoneHome(file.fileName()).create());
+    }
+
+    void messages()
+    {
+        Listener contact("contact");
+        m_core->sendAppMsg("contact", "first(str)", "1");
+        m_core->sendAppMsg("call", "lost()", "");
+        m_core->sendAppMsg("contact", "second()", "");
+        QVERIFY(contact.received.isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(contact.received, QStringList({"first(str)|1", "second()|"}));
+        // Looked up when it arrives: an application that has gone by then gets nothing.
+        {
+            const Listener call("call");
+            m_core->sendAppMsg("call", "late()", "");
+        }
+        QCoreApplication::processEvents();
+        QVERIFY(!m_core->getAppMap().contains("call"));
+    }
+
+    void messageInsideAHandler()
+    {
+        Listener contact("contact");
+        QEventLoop loop;
+        contact.onReceive = [&] { contact.received.size() == 1 ? void(loop.exec()) : loop.quit(); };
+        m_core->sendAppMsg("contact", "opens a screen", "");
+        m_core->sendAppMsg("contact", "closes it", "");
+        QCoreApplication::processEvents();
+        QCOMPARE(contact.received.size(), 2);
+    }
+
+    void settings()
+    {
+        QCOMPARE(m_core->charset(), QString("utf-8"));
+        set("config/system.conf", "System/Charset", "EUC-KR");
+        set("config/system.conf", "System/Type", 1);
+        QSettings(m_core->configFileName(SettingsConfig), QSettings::IniFormat)
+            .setValue("Settings/24HourTime", false);
+        QCOMPARE(getTextCodecType(""), QString("EUC-KR"));
+        QCOMPARE(getTextCodecType("cp949"), QString("cp949"));
+        QCOMPARE(getEncodedString("김"), QByteArray("\xb1\xe8"));
+        QCOMPARE(m_core->getSystemType(), 1);
+        QVERIFY(!m_core->use24HourTime());
+        set("config/system.conf", "System/Charset", "no codec");
+        QCOMPARE(m_core->charset(), QString("utf-8"));
+    }
+
+    void configurationPaths()
+    {
+        QCOMPARE(getConfFilePath("CONFIG", "PBOOK_CONF"), m_home->path("config/phonebook.conf"));
+        QCOMPARE(getConfFilePath("CONFIG", "NONE"), QString());
+        set("config/ipc.conf", "CM/Port", 70000);
+        QCOMPARE(getPeerPort("cm"), quint16(70000 - 65536));
+        qunsetenv("CONFIG_LIST");
+        QCOMPARE(getConfFilePath("CONFIG", "PBOOK_CONF"), QString());
+        QCOMPARE(getPeerPort("CM"), quint16(0));
+    }
+
+    void callsAndPresence()
+    {
+        QSignalSpy changed(m_core->callManager(), &CallManager::callStateChanged);
+        m_core->callManager()->setCallState("CONNECT");
+        m_core->callManager()->setCallState("CONNECT");
+        QCOMPARE(changed.size(), 1);
+        set("data/presence.ini", "a@b/Status", 1);
+        set("data/presence.ini", "a@b/c/Status", 2);
+        ToPresenceSocket::DeleteBuddyMemberRequest("a@b", "__");
+        QCOMPARE(m_core->contactManager()->getPresenceStatus().keys(), QStringList({"a@b/c"}));
+    }
 
 private:
     void setUp() override
@@ -77,135 +154,6 @@ private:
     QScopedPointer<PhoneHome> m_home;
     QScopedPointer<Core> m_core;
 };
-
-void TestPlatform::home()
-{
-    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther
-        | QFile::WriteOther | QFile::ExeOther;
-    QVERIFY(!(QFileInfo(m_home->runFolder()).permissions() & others));
-    QVERIFY(!(QFileInfo(m_home->path("config/secret.ini")).permissions() & others));
-    QCOMPARE(qEnvironmentVariable("CONFIG_LIST"), m_home->configList());
-    QFile photo(m_home->photoFolder() + "/x.png");
-    QVERIFY(photo.open(QIODevice::WriteOnly));
-    QVERIFY(QFile::exists("photo:x.png"));
-    set("config/secret.ini", "Prov/Password", "a,b;c");
-    QVERIFY(m_home->create()); // keeps what is there
-    QCOMPARE(m_core->getProvPassword(), QString("a,b;c"));
-
-    m_core.reset();
-    QVERIFY(QDir().rename(m_home->root(), m_dir->filePath("moved")));
-    const PhoneHome moved(m_dir->filePath("moved"));
-    QVERIFY(moved.create());
-    moved.enter();
-    QCOMPARE(getConfFilePath("COMMON", "IPC_CONF"), moved.path("config/ipc.conf"));
-}
-
-void TestPlatform::unusableHome()
-{
-    QFile file(m_dir->filePath("file"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    expectWarning("cannot make the folder");
-    QVERIFY(!PhoneHome(file.fileName()).create());
-}
-
-void TestPlatform::messages()
-{
-    Listener contact("contact");
-    m_core->sendAppMsg("contact", "first(str)", "1");
-    m_core->sendAppMsg("call", "lost()", "");
-    m_core->sendAppMsg("contact", "second()", "");
-    QVERIFY(contact.received.isEmpty());
-    QCoreApplication::processEvents();
-    QCOMPARE(contact.received, QStringList({"first(str)|1", "second()|"}));
-    // Looked up when it arrives: an application that has gone by then gets nothing.
-    {
-        const Listener call("call");
-        m_core->sendAppMsg("call", "late()", "");
-    }
-    QCoreApplication::processEvents();
-    QVERIFY(!m_core->getAppMap().contains("call"));
-}
-
-void TestPlatform::messageInsideAHandler()
-{
-    Listener contact("contact");
-    QEventLoop loop;
-    contact.onReceive = [&] {
-        if (contact.received.size() == 1)
-            loop.exec();
-        else
-            loop.quit();
-    };
-    m_core->sendAppMsg("contact", "opens a screen", "");
-    m_core->sendAppMsg("contact", "closes it", "");
-    QCoreApplication::processEvents();
-    QCOMPARE(contact.received.size(), 2);
-}
-
-void TestPlatform::languages()
-{
-    QCOMPARE(m_core->language(), English);
-    Listener contact("contact");
-    QVERIFY(m_core->setLanguageName("ko_KR"));
-    QVERIFY(!m_core->setLanguageName("fr_FR"));
-    QCOMPARE(m_core->getLanguage(), 0);
-    QCoreApplication::processEvents();
-    QCOMPARE(contact.received, QStringList({"changedLanguage()|"}));
-    contact.reloadLanguage(); // without any catalogue
-}
-
-void TestPlatform::settings()
-{
-    QCOMPARE(m_core->charset(), QString("utf-8"));
-    QCOMPARE(m_core->getSystemType(), 0);
-    set("config/system.conf", "System/Charset", "EUC-KR");
-    set("config/system.conf", "System/Type", 1);
-    QSettings(m_core->configFileName(SettingsConfig), QSettings::IniFormat).setValue("Settings/24HourTime", false);
-    QCOMPARE(getTextCodecType(""), QString("EUC-KR"));
-    QCOMPARE(getTextCodecType("cp949"), QString("cp949"));
-    QCOMPARE(getEncodedString("김"), QByteArray("\xb1\xe8"));
-    QCOMPARE(m_core->getSystemType(), 1);
-    QVERIFY(!m_core->use24HourTime());
-    set("config/system.conf", "System/Charset", "no codec");
-    QCOMPARE(m_core->charset(), QString("utf-8"));
-}
-
-void TestPlatform::configurationPaths()
-{
-    QCOMPARE(getConfFilePath("CONFIG", "PBOOK_CONF"), m_home->path("config/phonebook.conf"));
-    QCOMPARE(getConfFilePath("CONFIG", "NONE"), QString());
-    QCOMPARE(m_core->sipConfigFileName("phone_info.conf"), getConfFilePath("CONFIG", "PINFO_CONF"));
-    QCOMPARE(getPeerPort("CM"), quint16(0));
-    set("config/ipc.conf", "CM/Port", 70000);
-    QCOMPARE(getPeerPort("cm"), quint16(70000 - 65536));
-    qunsetenv("CONFIG_LIST");
-    QCOMPARE(getConfFilePath("CONFIG", "PBOOK_CONF"), QString());
-    QCOMPARE(getPeerPort("CM"), quint16(0));
-}
-
-void TestPlatform::callsAndPresence()
-{
-    QSignalSpy changed(m_core->callManager(), &CallManager::callStateChanged);
-    m_core->callManager()->setCallState("CONNECT");
-    m_core->callManager()->setCallState("CONNECT");
-    QCOMPARE(changed.size(), 1);
-
-    QVERIFY(m_core->contactManager()->getPresenceStatus().isEmpty());
-    set("data/presence.ini", "a@b/Status", 1);
-    set("data/presence.ini", "a@b/c/Status", 2);
-    ToPresenceSocket::DeleteBuddyMemberRequest("a@b", "__");
-    const auto presence = m_core->contactManager()->getPresenceStatus();
-    QCOMPARE(presence.keys(), QStringList({"a@b/c"}));
-    QCOMPARE(presence.value("a@b/c").status, 2);
-    QCOMPARE(presence.value("a@b/c").device, -1);
-}
-
-void TestPlatform::texts()
-{
-    QByteArray text = QByteArray("a&b=c? /%+") + QByteArray("김~-._Z9");
-    QCOMPARE(makeBuffEscape(text.data()), QByteArray("a%26b%3Dc%3F%20%2F%25%2B%EA%B9%80~-._Z9"));
-    QCOMPARE(makeBuffEscape(nullptr), QByteArray());
-}
 
 QTEST_MAIN(TestPlatform)
 #include "tst_platform.moc"

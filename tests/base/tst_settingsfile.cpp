@@ -16,80 +16,71 @@ class SettingsFileTest : public TestCase
     void tearDown() override { m_folder.reset(); }
 
 private slots:
-    void keepsTexts_data();
-    void keepsTexts();
-    void readsPlainTexts();
-    void refusesWhatOthersPut();
-
-private:
-    QString path() const { return m_folder->filePath("settings.ini"); }
-    void write(const QByteArray &text) const
+    void keepsTexts_data()
     {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        QTest::addColumn<QString>("text");
+        for (const char *text :
+             {"", "plain", "two words", " blanks ", "a,b", "\"quoted\"", "back\\slash", "@Variant(\x7f)", "a;b=c",
+              "line\nend\r\t", "Zo\u00eb1\u0131", "\uae40\ucca0\uc218 a1", "\U0001f4de", "100%"})
+            QTest::newRow(text) << QString::fromUtf8(text);
     }
-    QScopedPointer<QTemporaryDir> m_folder;
-};
 
-void SettingsFileTest::keepsTexts_data()
-{
-    QTest::addColumn<QString>("text");
-    for (const char *text :
-         {"", "plain", "two words", " blanks ", "a,b", "\"quoted\"", "back\\slash", "@Variant(\x7f)", "a;b=c",
-          "line\nend\r\t", "Zo\u00eb1\u0131", "\uae40\ucca0\uc218 a1", "\U0001f4de", "100%"})
-        QTest::newRow(text) << QString::fromUtf8(text);
-}
-
-void SettingsFileTest::keepsTexts()
-{
-    QFETCH(QString, text);
-    for (const char *key : {"Plain/Key", "Keys/1/Name", "alone", "A b/\u00fc,\uae40"}) {
-        SettingsFile file(path());
-        file.set(QString::fromUtf8(key), text);
-        file.set("Other/Key", "kept");
-        QVERIFY(file.save());
-        QCOMPARE(SettingsFile(path()).value(QString::fromUtf8(key), "missing"), text);
-        QCOMPARE(QSettings(path(), QSettings::IniFormat).value(QString::fromUtf8(key)).toString(), text);
-    }
-    QCOMPARE(SettingsFile(path()).value("Other/Key"), QString("kept"));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
-}
-
-void SettingsFileTest::readsPlainTexts()
-{
-    write("[A]\nlist=x, "
-          "y\nobject=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\fQSize)\nbytes=@ByteArray(z)\nflag=True\nnumber=12x\n");
-    const SettingsFile file(path());
-    QCOMPARE(file.value("A/list"), QString("x, y"));
-    QVERIFY(file.value("A/object").startsWith("@Variant("));
-    QCOMPARE(file.value("A/bytes"), QString("@ByteArray(z)"));
-    QVERIFY(file.flag("A/flag"));
-    QCOMPARE(file.number("A/number", 7), 7);
-    QCOMPARE(file.keys("A").size(), 5);
-}
-
-/// A link in a folder that everybody may write to is neither followed nor written through.
-void SettingsFileTest::refusesWhatOthersPut()
-{
-    const QString target = m_folder->filePath("target");
+    void keepsTexts()
     {
+        QFETCH(QString, text);
+        for (const char *key : {"Plain/Key", "Keys/1/Name", "alone", "A b/\u00fc,\uae40"}) {
+            SettingsFile file(path());
+            file.set(QString::fromUtf8(key), text);
+            file.set("Other/Key", "kept");
+            QVERIFY(file.save());
+            QCOMPARE(SettingsFile(path()).value(QString::fromUtf8(key), "missing"), text);
+            QCOMPARE(QSettings(path(), QSettings::IniFormat).value(QString::fromUtf8(key)).toString(), text);
+        }
+        QCOMPARE(SettingsFile(path()).value("Other/Key"), QString("kept"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+    }
+
+    void readsPlainTexts()
+    {
+        QFile text(path());
+        QVERIFY(text.open(QIODevice::WriteOnly));
+        text.write(
+            "[A]\nlist=x, y\nobject=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\fQSize)\nbytes=@ByteArray(z)\nflag=True\n"
+            "number=12x\n");
+        text.close();
+        const SettingsFile file(path());
+        QCOMPARE(file.value("A/list"), QString("x, y"));
+        QVERIFY(file.value("A/object").startsWith("@Variant("));
+        QCOMPARE(file.value("A/bytes"), QString("@ByteArray(z)"));
+        QVERIFY(file.flag("A/flag"));
+        QCOMPARE(file.number("A/number", 7), 7);
+    }
+
+    /// A link in a folder that everybody may write to is neither followed nor written through.
+    void refusesWhatOthersPut()
+    {
+        const QString target = m_folder->filePath("target");
         SettingsFile elsewhere(target);
         elsewhere.set("A/key", "theirs");
         QVERIFY(elsewhere.save());
-    }
-    QVERIFY(QFile::link(target, path()));
-    QCOMPARE(SettingsFile(path()).value("A/key"), QString("theirs"));
-    expectWarning("not read: .*settings.ini");
-    SettingsFile file(path(), SettingsFile::Shared);
-    QVERIFY(!file.contains("A/key"));
-    file.set("A/key", "ours");
-    QVERIFY(file.save());
-    QVERIFY(!QFileInfo(path()).isSymLink());
-    QCOMPARE(SettingsFile(target).value("A/key"), QString("theirs"));
+        QVERIFY(QFile::link(target, path()));
+        QCOMPARE(SettingsFile(path()).value("A/key"), QString("theirs"));
+        expectWarning("not read: .*settings.ini");
+        SettingsFile file(path(), SettingsFile::Shared);
+        QVERIFY(!file.contains("A/key"));
+        file.set("A/key", "ours");
+        QVERIFY(file.save());
+        QVERIFY(!QFileInfo(path()).isSymLink());
+        QCOMPARE(SettingsFile(target).value("A/key"), QString("theirs"));
 
-    expectWarning("cannot keep .*nowhere");
-    QVERIFY(!SettingsFile(m_folder->filePath("nowhere/settings.ini")).save());
-}
+        expectWarning("cannot keep .*nowhere");
+        QVERIFY(!SettingsFile(m_folder->filePath("nowhere/settings.ini")).save());
+    }
+
+private:
+    QString path() const { return m_folder->filePath("settings.ini"); }
+    QScopedPointer<QTemporaryDir> m_folder;
+};
 
 QTEST_GUILESS_MAIN(SettingsFileTest)
 #include "tst_settingsfile.moc"

@@ -8,39 +8,35 @@
 
 #include <csignal>
 
-namespace {
+static constexpr int Rate = 32000; // bytes a second
 
-constexpr int Rate = 32000; // bytes a second
-
-QByteArray number(quint32 value)
+static QByteArray number(quint32 value)
 {
     QByteArray bytes(4, '\0');
     qToLittleEndian(value, bytes.data());
     return bytes;
 }
 
-QByteArray chunk(const QByteArray &name, const QByteArray &content)
+static QByteArray chunk(const QByteArray &name, const QByteArray &content)
 {
     return name + number(content.size()) + content + QByteArray(content.size() % 2, '\0');
 }
 
-QByteArray format(quint32 byteRate, int extra = 0)
+static QByteArray format(quint32 byteRate, int extra = 0)
 {
     return chunk("fmt ",
                  QByteArray("\1\0\1\0", 4) + number(16000) + number(byteRate) + QByteArray("\2\0\20\0", 4)
                      + QByteArray(extra, '\0'));
 }
 
-QByteArray wav(const QByteArray &chunks)
+static QByteArray wav(const QByteArray &chunks)
 {
     return "RIFF" + number(4 + chunks.size()) + "WAVE" + chunks;
 }
 
-QByteArray sound(int milliseconds)
+static QByteArray sound(int milliseconds)
 {
     return chunk("data", QByteArray(Rate / 1000 * milliseconds, '\0'));
-}
-
 }
 
 class SoundTest : public TestCase
@@ -64,12 +60,104 @@ class SoundTest : public TestCase
     }
 
 private slots:
-    void durations();
-    void listsTonesOfAFolder();
-    void holdsForItsLength();
-    void repeatsUntilItIsStopped();
-    void theNextSoundEndsTheLast();
-    void whatCannotBePlayedIsSilence();
+    void durations()
+    {
+        const QByteArray title = chunk("LIST", "odd");
+        const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
+        const QList<std::tuple<const char *, QByteArray, int>> files = {
+            {"a long format and chunks between", wav(title + format(Rate, 24) + title + sound(250)), 250},
+            {"chunks behind", wav(format(Rate) + sound(250) + title), 250},
+            {"streamed", wav(format(Rate) + openData), 1000},
+            {"cut off", wav(format(Rate) + sound(250)).chopped(Rate / 10), 150},
+            {"nothing in it", wav(format(Rate) + sound(0)), 0},
+            {"a day is the most", wav(format(1) + sound(10000)), 24 * 60 * 60 * 1000},
+            {"text", "This is no sound at all.", -1},
+            {"another RIFF", wav(format(Rate) + sound(250)).replace("WAVE", "AVI "), -1},
+            {"no format", wav(sound(250)), -1},
+            {"no speed", wav(format(0) + sound(250)), -1},
+            {"short format", wav(chunk("fmt ", "\1\0\1\0") + sound(250)), -1},
+            {"chunk beyond the end", wav(format(Rate) + "LIST" + number(0xFFFFFFF0u) + sound(250)), -1},
+            {"endless chunks", wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)), -1},
+        };
+        for (const auto &[name, content, milliseconds] : files)
+            QVERIFY2(wavDuration(makeFile("a.wav", content)) == milliseconds, name);
+        for (const QString &path : {m_dir->filePath("missing.wav"), m_dir->path(), QString("/dev/zero"), QString()})
+            QCOMPARE(wavDuration(path), -1);
+    }
+
+    void listsTonesOfAFolder()
+    {
+        const QDir dir(m_dir->path());
+        QVERIFY(dir.mkdir("basicring") && dir.mkdir("ring.wav"));
+        for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "basicring/Bell.wav",
+                                 "basicring/Alarm.WAV", "basicring/note.txt", "ring.wav/x.wav"})
+            makeFile(name, {});
+        QList<QFileInfo> files;
+        m_sounds->addRingDir(files, dir.path(), "*ring*");
+        m_sounds->addRingDir(files, dir.filePath("missing"), "*.wav");
+        QString found;
+        for (const QFileInfo &file : qAsConst(files))
+            found += dir.relativeFilePath(file.filePath()) + ' ';
+        QCOMPARE(found, QString("a_ring.mp3 b_ring.wav basicring/Alarm.WAV basicring/Bell.wav ring.wav/x.wav "));
+    }
+
+    void holdsForItsLength()
+    {
+        makePlayer("echo 'no sound card' >&2; exit 1");
+        const QString path = makeSound("a.wav", 300);
+        m_sounds->playSound(path, false, "RING");
+        QCOMPARE(m_started->takeFirst(), QVariantList({path, "RING"}));
+        QCOMPARE(m_sounds->playing(), path);
+        // A player that cannot play does not end the sound.
+        QTRY_COMPARE(played().size(), 1);
+        QVERIFY(played().first().endsWith(path.toLocal8Bit()));
+        QVERIFY(m_stopped->isEmpty());
+        QTRY_VERIFY(m_sounds->playing().isEmpty());
+        m_sounds->stopSound(false);
+        QCOMPARE(m_stopped->size(), 1);
+    }
+
+    void repeatsUntilItIsStopped()
+    {
+        makePlayer("");
+        m_sounds->playSound(makeSound("a.wav", 20), true, "RING");
+        QTRY_VERIFY(played().size() >= 3);
+        QCOMPARE(m_started->size(), 1);
+        QVERIFY(m_stopped->isEmpty());
+        m_sounds->stopSound(false);
+        QCOMPARE(m_stopped->size(), 1);
+    }
+
+    void theNextSoundEndsTheLast()
+    {
+        makePlayer("exec sleep 100");
+        const QString second = makeSound("b.wav", 60000);
+        m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
+        QTRY_COMPARE(played().size(), 1);
+        m_sounds->playSound(second, false, "RING");
+        QCOMPARE(m_stopped->size(), 1);
+        QCOMPARE(m_sounds->playing(), second);
+        QTRY_COMPARE(played().size(), 2);
+        QTRY_VERIFY(!isRunning(played().first()));
+        QVERIFY(isRunning(played().last()));
+        m_sounds->stopSound(false);
+        QTRY_VERIFY(!isRunning(played().last()));
+        m_sounds->playSound(second, true, "RING");
+        QTRY_COMPARE(played().size(), 3);
+        m_sounds.reset(); // the phone ends in the middle of a tone
+        QVERIFY(!isRunning(played().last()));
+    }
+
+    void whatCannotBePlayedIsSilence()
+    {
+        m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
+        QCOMPARE(m_started->size(), 1); // without a player, too
+        m_sounds->playSound(m_dir->filePath("missing.wav"), true, "RING");
+        QVERIFY(m_sounds->playing().isEmpty());
+        QCOMPARE(m_stopped->size(), 1);
+        m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
+        QCOMPARE(m_started->size(), 1);
+    }
 
 private:
     QString makeFile(const QString &name, const QByteArray &content)
@@ -102,119 +190,6 @@ private:
     QScopedPointer<QSignalSpy> m_started, m_stopped;
     QByteArray m_path;
 };
-
-void SoundTest::durations()
-{
-    const QByteArray title = chunk("LIST", "odd");
-    const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
-    const struct
-    {
-        const char *name;
-        QByteArray content;
-        int milliseconds;
-    } files[] = {
-        {"plain", wav(format(Rate) + sound(250)), 250},
-        {"a long format and chunks between", wav(title + format(Rate, 24) + title + sound(250)), 250},
-        {"chunks behind", wav(format(Rate) + sound(250) + title), 250},
-        {"streamed", wav(format(Rate) + openData), 1000},
-        {"cut off", wav(format(Rate) + sound(250)).chopped(Rate / 10), 150},
-        {"nothing in it", wav(format(Rate) + sound(0)), 0},
-        {"a day is the most", wav(format(1) + sound(10000)), 24 * 60 * 60 * 1000},
-        {"empty", QByteArray(), -1},
-        {"text", "This is no sound at all.", -1},
-        {"head alone", wav({}), -1},
-        {"another RIFF", wav(format(Rate) + sound(250)).replace("WAVE", "AVI "), -1},
-        {"no format", wav(sound(250)), -1},
-        {"no data", wav(format(Rate) + title), -1},
-        {"no speed", wav(format(0) + sound(250)), -1},
-        {"short format", wav(chunk("fmt ", "\1\0\1\0") + sound(250)), -1},
-        {"format cut off", wav(format(Rate)).chopped(4), -1},
-        {"chunk beyond the end", wav(format(Rate) + "LIST" + number(0xFFFFFFF0u) + sound(250)), -1},
-        {"endless chunks", wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)), -1},
-    };
-    for (const auto &file : files)
-        QVERIFY2(wavDuration(makeFile("a.wav", file.content)) == file.milliseconds, file.name);
-    for (const QString &path : {m_dir->filePath("missing.wav"), m_dir->path(), QString("/dev/zero"), QString()})
-        QCOMPARE(wavDuration(path), -1);
-}
-
-void SoundTest::listsTonesOfAFolder()
-{
-    const QDir dir(m_dir->path());
-    for (const char *folder : {"basicring", "ring.wav"})
-        QVERIFY(dir.mkdir(folder));
-    for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "note.txt", "basicring/Bell.wav",
-                             "basicring/Alarm.WAV", "basicring/note.txt", "ring.wav/x.wav"})
-        makeFile(name, {});
-    QList<QFileInfo> files;
-    m_sounds->addRingDir(files, dir.path(), "*ring*");
-    m_sounds->addRingDir(files, dir.filePath("missing"), "*.wav");
-    QStringList found;
-    for (const QFileInfo &file : qAsConst(files))
-        found.append(dir.relativeFilePath(file.filePath()));
-    QCOMPARE(
-        found,
-        QStringList({"a_ring.mp3", "b_ring.wav", "basicring/Alarm.WAV", "basicring/Bell.wav", "ring.wav/x.wav"}));
-}
-
-void SoundTest::holdsForItsLength()
-{
-    makePlayer("echo 'no sound card' >&2; exit 1");
-    const QString path = makeSound("a.wav", 300);
-    m_sounds->playSound(path, false, "RING");
-    QCOMPARE(m_started->takeFirst(), QVariantList({path, "RING"}));
-    QCOMPARE(m_sounds->playing(), path);
-    // A player that cannot play does not end the sound.
-    QTRY_COMPARE(played().size(), 1);
-    QVERIFY(played().first().endsWith(path.toLocal8Bit()));
-    QVERIFY(m_stopped->isEmpty());
-    QTRY_VERIFY(m_sounds->playing().isEmpty());
-    QCOMPARE(m_stopped->size(), 1);
-    m_sounds->stopSound(false);
-    QCOMPARE(m_stopped->size(), 1);
-}
-
-void SoundTest::repeatsUntilItIsStopped()
-{
-    makePlayer("");
-    m_sounds->playSound(makeSound("a.wav", 20), true, "RING");
-    QTRY_VERIFY(played().size() >= 3);
-    QCOMPARE(m_started->size(), 1);
-    QVERIFY(m_stopped->isEmpty());
-    m_sounds->stopSound(false);
-    QCOMPARE(m_stopped->size(), 1);
-}
-
-void SoundTest::theNextSoundEndsTheLast()
-{
-    makePlayer("exec sleep 100");
-    const QString second = makeSound("b.wav", 60000);
-    m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
-    QTRY_COMPARE(played().size(), 1);
-    m_sounds->playSound(second, false, "RING");
-    QCOMPARE(m_stopped->size(), 1);
-    QCOMPARE(m_sounds->playing(), second);
-    QTRY_COMPARE(played().size(), 2);
-    QTRY_VERIFY(!isRunning(played().first()));
-    QVERIFY(isRunning(played().last()));
-    m_sounds->stopSound(false);
-    QTRY_VERIFY(!isRunning(played().last()));
-    m_sounds->playSound(second, true, "RING");
-    QTRY_COMPARE(played().size(), 3);
-    m_sounds.reset(); // the phone ends in the middle of a tone
-    QVERIFY(!isRunning(played().last()));
-}
-
-void SoundTest::whatCannotBePlayedIsSilence()
-{
-    m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
-    QCOMPARE(m_started->size(), 1); // without a player, too
-    m_sounds->playSound(m_dir->filePath("missing.wav"), true, "RING");
-    QVERIFY(m_sounds->playing().isEmpty());
-    QCOMPARE(m_stopped->size(), 1);
-    m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
-    QCOMPARE(m_started->size(), 1);
-}
 
 QTEST_GUILESS_MAIN(SoundTest)
 #include "tst_sound.moc"

@@ -4,7 +4,6 @@
 #include "contact.h"
 #include "gridselectview.h"
 #include "phonekeys.h"
-#include "tail.h"
 
 #include <QTest>
 
@@ -20,16 +19,6 @@ public:
         return PhoneKeys::waitUntilActive(&app);
     }
     GridSelectView *grid() { return app.findChild<GridSelectView *>(); }
-    /// The two-row chooser of the phonebooks, the one list that is no grid.
-    ListView *chooser()
-    {
-        const QList<ListView *> lists = app.findChildren<ListView *>();
-        for (ListView *list : lists) {
-            if (!qobject_cast<GridSelectView *>(list))
-                return list;
-        }
-        return nullptr;
-    }
     QStringList names()
     {
         QStringList texts;
@@ -41,13 +30,6 @@ public:
     {
         ListViewItem *cell = grid()->item(grid()->selectedIdx());
         return cell ? cell->text() : QString();
-    }
-    QStringList softKeys()
-    {
-        QStringList texts;
-        for (int i = 0; i < Tail::ButtonCount; ++i)
-            texts.append(app.findChild<Tail *>()->funcButtonText(i));
-        return texts;
     }
 };
 

@@ -2,288 +2,222 @@
 
 #include "contactmanager.h"
 #include "contactscreen.h"
-#include "listview.h"
 #include "neighbours.h"
+#include "phonekey.h"
 #include "phonescript.h"
-#include "tail.h"
-#include "testcase.h"
+#include "phonetest.h"
 #include "testmain.h"
-#include "testphone.h"
-
-#include <memory>
 
 using namespace PhoneKeys;
 
-/// Keys, each with the screen that is active after it. Two steps are no keys but come from outside.
-using Road = QList<QPair<int, QString>>;
-enum Outside { Directory = -1, Answer = -2 };
-static constexpr auto Response = "http2ui_directory_service_response(str,int)";
-Q_DECLARE_METATYPE(Road)
+static const char Response[] = "http2ui_directory_service_response(str,int)";
 
-class DepthTest : public TestCase
+class DepthTest : public PhoneTest
 {
     Q_OBJECT
 
-    void setUp() override;
+    void setUp() override
+    {
+        PhoneTest::setUp();
+        ContactManager *store = m_phone->core.contactManager();
+        const int team = store->saveGroup(GroupData(-1, "Team", ""), false);
+        store->saveGroupMember(m_phone->addContact("Kim"), {team});
+        m_contacts.reset(new ContactScreen);
+        QVERIFY(m_contacts->open());
+    }
     void tearDown() override
     {
-        m_screen.reset();
-        m_phone.reset();
+        m_contacts.reset();
+        PhoneTest::tearDown();
     }
 
 private slots:
-    void commandsInTheMiddle_data();
-    void commandsInTheMiddle();
-    void aScreenComesForwardWithWhatStandsOverIt();
-    void aNewLanguage_data();
-    void aNewLanguage();
-    void payloads_data();
-    void payloads();
+    void commandsInTheMiddle_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("road");
+        QTest::addColumn<QString>("left");
+        // Each with what is in front after it: nothing at all, a screen, or what was there before.
+        const QList<QPair<QStringList, QString>> commands
+            = {{{"CloseContact()", "start"}, ""},
+               {{"wpsm2ui_noti_device_disconnected(int)"}, "Contact"},
+               {{"newContact(str)"}, "NumberEdit"},
+               {{"viewContact(str)"}, "DetailsDial"},
+               {{"viewContactSearchDir(str)"}, "SearchDir"},
+               {{"showSearchAllToFindReceiver()"}, "SearchAll"},
+               {{Response, "closeSearchAll()", "api2ui_noti_contact_changed()", "BuddyStatusChanged()",
+                 "changedLanguage()", "noti_phoneInit()"},
+                "same"}};
+        for (const QString &road : roads()) {
+            for (const auto &group : commands) {
+                for (const QString &command : group.first)
+                    QTest::newRow(qPrintable(command + " after " + road))
+                        << command << road << leftAfter(command, group.second, road);
+            }
+        }
+    }
+
+    void commandsInTheMiddle()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, road);
+        QFETCH(QString, left);
+        PhoneScript script = walk(road);
+        QString before;
+        script.call([&] {
+            before = title();
+            tell(command);
+        });
+        if (left.isEmpty())
+            script.until("everything to close", nothingShows);
+        else
+            script.untilActive(left.toLatin1());
+        if (command == Response && road.endsWith(left))
+            script.until("a moment to pass", pause()).call([&] { QCOMPARE(title(), before); });
+        // From wherever it is, one command leads out again, and nothing is left on the stack.
+        script.call([this] { tell("CloseContact()"); }).until("everything to close", nothingShows);
+        QCOMPARE(script.run(), QString());
+        QVERIFY(!m_contacts->app.isVisible());
+        QCOMPARE(m_phone->core.contactManager()->getCountOfContact(), 1);
+        // And the way in again is free.
+        QVERIFY(m_contacts->open());
+        click(Qt::Key_Down);
+        QCOMPARE(m_contacts->selectedName(), QString("Kim"));
+    }
+
+    /// A screen that is asked for again while a modal window stands over it must not come up deaf to the keys.
+    void aScreenComesForwardWithWhatStandsOverIt()
+    {
+        PhoneScript script;
+        script.call([this] { tell("newContact(str)"); })
+            .untilActive("NumberEdit")
+            .opens(Qt::Key_Context1, "SelectPopup")
+            .call([this] { tell("newContact(str)"); })
+            .until("a moment to pass", pause())
+            .opens(Qt::Key_Escape, "NumberEdit")
+            .keys({Qt::Key_Escape})
+            .until("everything to close", nothingShows);
+        QCOMPARE(script.run(), QString());
+    }
+
+    void aNewLanguage_data()
+    {
+        QTest::addColumn<QString>("road");
+        for (const QString &road : roads()) {
+            if (!road.endsWith("Box") && !road.endsWith("Popup")) // these keep their words until they are answered
+                QTest::newRow(qPrintable(road)) << road;
+        }
+    }
+
+    /// A screen that shows while the language changes looks as if it had been opened in the new one.
+    void aNewLanguage()
+    {
+        QFETCH(QString, road);
+        const QString there = lookAfter(road, "en_US", "de_DE"), fresh = lookAfter(road, "de_DE", "de_DE");
+        QCOMPARE(there, fresh);
+        QVERIFY(fresh != lookAfter(road, "en_US", "en_US"));
+    }
 
 private:
+    /// Keys, each with the screen that is active after it. Two steps are no keys but come from outside.
+    static QStringList roads()
+    {
+        const QString details = "Ok DetailsDial", box = details + " Soft3 MessageBox",
+                      form = details + " Soft4 NumberEdit";
+        const QString popup = form + " Soft1 SelectPopup", groups = "Soft1 GroupList",
+                      groupForm = groups + " Soft2 GroupAdd";
+        const QString assignment = form + " Down NumberEdit Ok GroupList_At_Contact",
+                      input = assignment + " Soft1 InputPopup";
+        const QString bells = groupForm + " Down GroupAdd Ok SoundSelectPopup", team = groups + " Down GroupList";
+        const QString groupBox = team + " Soft3 MessageBox", group = team + " Ok GroupDetail",
+                      newMember = group + " Soft2 NumberEdit";
+        const QString member = group + " Ok DetailsDial", memberBox = member + " Soft3 MessageBox";
+        const QString search = "Soft2 SearchAll", searched = search + " F2 DetailsDial",
+                      directory = "Directory SearchDir";
+        const QString methods = directory + " F7 SelectPopup", found = directory + " Answer SearchDirResult";
+        const QString entry = found + " Ok DirectorySearchDetail", save = entry + " Soft1 MessageBox";
+        const QString asNew = save + " Soft2 NumberEdit", choice = save + " Soft3 SearchAll Down SearchAll",
+                      added = choice + " Ok NumberEdit";
+        return {details,   box,      form,  popup,     assignment, input,     groups, groupForm,
+                bells,     groupBox, group, newMember, member,     memberBox, search, searched,
+                directory, methods,  found, entry,     save,       asNew,     choice, added};
+    }
+    /// The directory goes with all that closes searches, and a first answer comes over its form.
+    static QString leftAfter(const QString &command, const QString &elsewhere, const QString &road)
+    {
+        const bool inDirectory = road.startsWith("Directory");
+        if (inDirectory && (command == "closeSearchAll()" || command.contains("disconnected")))
+            return "";
+        if (command == "closeSearchAll()" && road.startsWith("Soft2"))
+            return "Contact";
+        if (command == Response && inDirectory && !road.contains("Answer"))
+            return "SearchDirResult";
+        return elsewhere == "same" ? road.section(' ', -1) : elsewhere;
+    }
+    PhoneScript walk(const QString &road)
+    {
+        PhoneScript script;
+        const QStringList steps = road.split(' ');
+        for (int i = 0; i < steps.size(); i += 2) {
+            const QString step = steps.at(i);
+            if (const int key = PhoneKey::code(step))
+                script.keys({key});
+            else
+                script.call([=] { tell(step == "Directory" ? "viewContactSearchDir(str)" : Response); });
+            script.untilActive(steps.at(i + 1).toLatin1()).until("a moment to pass", pause());
+        }
+        return script;
+    }
+    /// The second start of the application is no command, but it can come at the same moments.
+    void tell(const QString &command)
+    {
+        const QString answer = "run/directory-AbCdEf.xml";
+        if (command == "start") {
+            m_contacts->app.start(nullptr, nullptr);
+        } else if (command == Response) {
+            m_phone->writeFile(
+                answer,
+                "<a><display count=\"30\"/><item><data><type>number</type><value>1</value></data></item></a>");
+            m_phone->core.postAppMsg("contact", command, Neighbours::payload({m_phone->home.path(answer)}));
+        } else {
+            m_phone->core.postAppMsg("contact", command, QByteArray(""));
+        }
+    }
+    static bool nothingShows() { return !QApplication::activeWindow(); }
     /// What a screen puts off by a millisecond is done after it.
     static std::function<bool()> pause()
     {
         auto turns = std::make_shared<int>(0);
         return [turns] { return ++*turns > 5; };
     }
-    static QList<QPair<const char *, Road>> roads();
-    void send(const QString &command);
-    PhoneScript walk(const Road &road);
-    QString lookAfter(const Road &road, const char *before, const char *there);
-
-    std::unique_ptr<TestPhone> m_phone;
-    std::unique_ptr<ContactScreen> m_screen;
-};
-
-void DepthTest::setUp()
-{
-    m_phone.reset(new TestPhone);
-    ContactManager *store = m_phone->core.contactManager();
-    const int team = store->saveGroup(GroupData(-1, "Team", ""), false);
-    store->saveGroupMember(m_phone->addContact("Kim"), {team});
-    m_screen.reset(new ContactScreen);
-    QVERIFY(m_screen->open());
-}
-
-QList<QPair<const char *, Road>> DepthTest::roads()
-{
-    const auto on = [](const Road &road, int key, const char *screen) { return road + Road{{key, screen}}; };
-    const Road details{{Qt::Key_Return, "DetailsDial"}}, list{{Qt::Key_Context1, "GroupList"}};
-    const Road form = on(details, Qt::Key_Context4, "NumberEdit");
-    const Road assignment = on(on(form, Qt::Key_Down, "NumberEdit"), Qt::Key_Return, "GroupList_At_Contact");
-    const Road groupForm = on(list, Qt::Key_Context2, "GroupAdd");
-    const Road team = on(list, Qt::Key_Down, "GroupList");
-    const Road group = on(team, Qt::Key_Return, "GroupDetail");
-    const Road member = on(group, Qt::Key_Return, "DetailsDial");
-    const Road search{{Directory, "SearchDir"}};
-    const Road entry = on(on(search, Answer, "SearchDirResult"), Qt::Key_Return, "DirectorySearchDetail");
-    const Road save = on(entry, Qt::Key_Context1, "MessageBox");
-    const Road chooser = on(on(save, Qt::Key_Context3, "SearchAll"), Qt::Key_Down, "SearchAll");
-    return {
-        {"details", details},
-        {"box", on(details, Qt::Key_Context3, "MessageBox")},
-        {"form", form},
-        {"popup", on(form, Qt::Key_Context1, "SelectPopup")},
-        {"assignment", assignment},
-        {"input", on(assignment, Qt::Key_Context1, "InputPopup")},
-        {"groups", list},
-        {"group form", groupForm},
-        {"bells", on(on(groupForm, Qt::Key_Down, "GroupAdd"), Qt::Key_Return, "SoundSelectPopup")},
-        {"group box", on(team, Qt::Key_Context3, "MessageBox")},
-        {"group", group},
-        {"member", member},
-        {"member's box", on(member, Qt::Key_Context3, "MessageBox")},
-        {"new member", on(group, Qt::Key_Context2, "NumberEdit")},
-        {"directory", search},
-        {"its popup", on(search, Qt::Key_F7, "SelectPopup")},
-        {"results", on(search, Answer, "SearchDirResult")},
-        {"entry", entry},
-        {"entry's box", save},
-        {"entry as new", on(save, Qt::Key_Context2, "NumberEdit")},
-        {"contact for an entry", chooser},
-        {"entry into a contact", on(chooser, Qt::Key_Return, "NumberEdit")},
-    };
-}
-
-/// The second start of the application is no command, but it can come at the same moments.
-void DepthTest::send(const QString &command)
-{
-    const QString answer = "run/directory-AbCdEf.xml";
-    if (command == "start") {
-        m_screen->app.start(nullptr, nullptr);
-    } else if (command == Response) {
-        m_phone->writeFile(
-            answer, "<a><display count=\"30\"/><item><data><type>number</type><value>1</value></data></item></a>");
-        m_phone->core.postAppMsg("contact", command, Neighbours::payload({m_phone->home.path(answer)}));
-    } else {
-        m_phone->core.postAppMsg("contact", command, QByteArray(""));
-    }
-}
-
-/// The directory goes with all that closes searches, and a first answer comes over its form.
-static QString leftAfter(const QString &command, const char *elsewhere, const Road &road)
-{
-    const bool inDirectory = road.first().first == Directory;
-    if (inDirectory && (command == "closeSearchAll()" || command.contains("disconnected")))
-        return "";
-    if (command == Response && inDirectory && (road.size() == 1 || road.last().first == Qt::Key_F7))
-        return "SearchDirResult";
-    return elsewhere ? QString(elsewhere) : road.last().second;
-}
-
-void DepthTest::commandsInTheMiddle_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<Road>("road");
-    QTest::addColumn<QString>("left");
-    // What is in front after each: nothing at all, a screen, or what was there before.
-    const struct
+    /// The title, the soft keys and the rows at the end of the road.
+    QString lookAfter(const QString &road, const char *before, const char *there)
     {
-        const char *command;
-        const char *left;
-    } commands[] = {{"CloseContact()", ""},
-                    {"start", ""},
-                    {"wpsm2ui_noti_device_disconnected(int)", "Contact"},
-                    {"newContact(str)", "NumberEdit"},
-                    {"viewContact(str)", "DetailsDial"},
-                    {"viewContactSearchDir(str)", "SearchDir"},
-                    {Response, nullptr},
-                    {"closeSearchAll()", nullptr},
-                    {"api2ui_noti_contact_changed()", nullptr},
-                    {"BuddyStatusChanged()", nullptr},
-                    {"changedLanguage()", nullptr},
-                    {"noti_phoneInit()", nullptr}};
-    const auto all = roads();
-    for (const auto &road : all) {
-        for (const auto &command : commands) {
-            QTest::addRow("%s in %s", command.command, road.first)
-                << command.command << road.second << leftAfter(command.command, command.left, road.second);
-        }
+        QString look;
+        m_phone->core.setLanguageName(before);
+        PhoneScript script = walk(road);
+        script.call([&] { m_phone->core.setLanguageName(there); })
+            .until("a moment to pass", pause())
+            .call([&] {
+                const QWidget *screen = QApplication::activeWindow();
+                QStringList words = softKeys(screen) + QStringList{title()};
+                for (ListView *list : screen->findChildren<ListView *>()) {
+                    QImage picture(list->size(), QImage::Format_RGB32);
+                    // Without the line edit: its cursor blinks.
+                    list->render(&picture, {}, {}, QWidget::DrawWindowBackground);
+                    words.append(QString::number(qHashBits(picture.constBits(), picture.sizeInBytes())));
+                }
+                look = words.join('|');
+                tell("CloseContact()");
+            })
+            .until("everything to close", nothingShows);
+        const QString fault = script.run();
+        m_contacts->open();
+        return fault.isEmpty() ? look : fault;
     }
-}
 
-PhoneScript DepthTest::walk(const Road &road)
-{
-    PhoneScript script;
-    for (const auto &step : road) {
-        if (step.first > 0)
-            script.keys({step.first});
-        else
-            script.call([=] { send(step.first == Directory ? "viewContactSearchDir(str)" : Response); });
-        script.untilActive(step.second.toLatin1()).until("a moment to pass", pause());
-    }
-    return script;
-}
-
-void DepthTest::commandsInTheMiddle()
-{
-    QFETCH(QString, command);
-    QFETCH(Road, road);
-    QFETCH(QString, left);
-    const auto nothing = [] { return !QApplication::activeWindow(); };
-    PhoneScript script = walk(road);
-    QString title;
-    script.call([&] {
-        title = m_phone->status.title();
-        send(command);
-    });
-    if (left.isEmpty())
-        script.until("everything to close", nothing);
-    else
-        script.untilActive(left.toLatin1());
-    if (command == Response && left == road.last().second)
-        script.until("a moment to pass", pause()).call([&] { QCOMPARE(m_phone->status.title(), title); });
-    // From wherever it is, one command leads out again, and nothing is left on the stack.
-    script.call([this] { send("CloseContact()"); }).until("everything to close", nothing);
-    QCOMPARE(script.run(), QString());
-    QVERIFY(!m_screen->app.isVisible());
-    QCOMPARE(m_phone->core.contactManager()->getCountOfContact(), 1);
-    // And the way in again is free.
-    QVERIFY(m_screen->open());
-    click(Qt::Key_Down);
-    QCOMPARE(m_screen->selectedName(), QString("Kim"));
-}
-
-/// A screen that is asked for again while a modal window stands over it must not come up deaf to the keys.
-void DepthTest::aScreenComesForwardWithWhatStandsOverIt()
-{
-    PhoneScript script;
-    script.call([this] { send("newContact(str)"); })
-        .untilActive("NumberEdit")
-        .opens(Qt::Key_Context1, "SelectPopup")
-        .call([this] { send("newContact(str)"); })
-        .until("a moment to pass", pause())
-        .opens(Qt::Key_Escape, "NumberEdit")
-        .keys({Qt::Key_Escape})
-        .until("everything to close", [] { return !QApplication::activeWindow(); });
-    QCOMPARE(script.run(), QString());
-}
-
-void DepthTest::aNewLanguage_data()
-{
-    QTest::addColumn<Road>("road");
-    const auto all = roads();
-    for (const auto &road : all) {
-        const QString screen = road.second.last().second;
-        if (!screen.endsWith("Box") && !screen.endsWith("Popup")) // these keep their words until they are answered
-            QTest::newRow(road.first) << road.second;
-    }
-}
-
-/// The title, the soft keys and the rows at the end of the road.
-QString DepthTest::lookAfter(const Road &road, const char *before, const char *there)
-{
-    QString look;
-    m_phone->core.setLanguageName(before);
-    PhoneScript script = walk(road);
-    script.call([&] { m_phone->core.setLanguageName(there); })
-        .until("a moment to pass", pause())
-        .call([&] {
-            QWidget *screen = QApplication::activeWindow();
-            QStringList words{m_phone->status.title()};
-            for (int i = 0; i < Tail::ButtonCount; ++i)
-                words.append(screen->findChild<Tail *>()->funcButtonText(i));
-            const QList<ListView *> lists = screen->findChildren<ListView *>();
-            for (ListView *list : lists) {
-                QImage picture(list->size(), QImage::Format_RGB32);
-                list->render(&picture, {}, {}, QWidget::DrawWindowBackground); // no line edit: its cursor blinks
-                words.append(QString::number(qHashBits(picture.constBits(), picture.sizeInBytes())));
-            }
-            look = words.join('|');
-            send("CloseContact()");
-        })
-        .until("everything to close", [] { return !QApplication::activeWindow(); });
-    const QString fault = script.run();
-    m_screen->open();
-    return fault.isEmpty() ? look : fault;
-}
-
-/// A screen that shows while the language changes looks as if it had been opened in the new one.
-void DepthTest::aNewLanguage()
-{
-    QFETCH(Road, road);
-    const QString there = lookAfter(road, "en_US", "de_DE"), fresh = lookAfter(road, "de_DE", "de_DE");
-    QCOMPARE(there, fresh);
-    QVERIFY(fresh != lookAfter(road, "en_US", "en_US"));
-}
-
-void DepthTest::payloads_data()
-{
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("none") << QStringList() << QByteArray();
-    QTest::newRow("a number") << QStringList{"01"} << QByteArray::fromHex("00000004 0030 0031");
-    QTest::newRow("a number and a name")
-        << QStringList{"1", QString::fromUtf8("김")} << QByteArray::fromHex("00000002 0031 00000002 ae40");
-    QTest::newRow("nothing known") << QStringList{QString(), ""} << QByteArray::fromHex("ffffffff 00000000");
-}
-
-void DepthTest::payloads()
-{
-    QFETCH(QStringList, texts);
-    QTEST(Neighbours::payload(texts), "bytes");
-}
+    std::unique_ptr<ContactScreen> m_contacts;
+};
 
 PHONE_TEST_MAIN(DepthTest)
 #include "tst_depth.moc"

@@ -1,8 +1,7 @@
-// The details screen and what is done from it, the group assignment, and commands that come in the middle.
+// The details screen and what is done from it, and the group assignment.
 
 #include "callmanager.h"
 #include "contactmanager.h"
-#include "contactscreen.h"
 #include "detailsdial.h"
 #include "grouplist_at_contact.h"
 #include "listviewcontactitem.h"
@@ -14,19 +13,176 @@
 
 using namespace PhoneKeys;
 
+/// A text of exactly that width: wide letters, the last ones exchanged for narrow ones.
+static QString textOfWidth(int width)
+{
+    const QFontMetrics metrics((QFont()));
+    QString text;
+    for (int size = 18; size < 60 && metrics.horizontalAdvance(text) != width; ++size) {
+        text = QString(size, 'n');
+        for (int i = size - 1; i >= 0 && metrics.horizontalAdvance(text) > width; --i)
+            text[i] = 'i';
+    }
+    return text;
+}
+
 class DetailsTest : public PhoneTest
 {
     Q_OBJECT
 
 private slots:
-    void rowsOfAContact();
-    void longTextsFlow();
-    void messagesNeedALogin();
-    void callsAndLeaves();
-    void historyOfANumber();
-    void deletes();
-    void groupMarksExcludeEachOther();
-    void refusesGroupNames();
+    void rowsOfAContact()
+    {
+        openDetails(fullContact());
+        QCOMPARE(title(), QString("Contacts | Details"));
+        QCOMPARE(fields(),
+                 QStringList({"Name=Kim", "Group=Chess,Team", "Mobile Number=1", "Fax Number=2",
+                              "Email=kim@example.org", "Bell=Morning", "Memo=met in spring"}));
+        for (const bool isNumber : {false, false, true, true, false, false, false, false}) {
+            QCOMPARE(softKeys(),
+                     QStringList({isNumber ? "Call" : "", isNumber ? "Message" : "", "Delete", "Edit"}));
+            click(Qt::Key_Down);
+        }
+        openDetails(m_phone->addContact("Plain", {"7"}));
+        QCOMPARE(fields(), QStringList({"Name=Plain", "Group=Unassigned", "Company Number=7"}));
+        m_phone->connectMobile({"Mobile"});
+        m_phone->core.wpsmContactManager()->readWpsmConfigFile();
+        const ContactData mobile = m_phone->core.wpsmContactManager()->getAllContacts().value(0);
+        openDetails(mobile.id, mobile.type);
+        QCOMPARE(fields(), QStringList({"Name=Mobile", "Mobile Number=0701234567"}));
+        click(Qt::Key_Down);
+        QCOMPARE(softKeys(), QStringList({"Call", "Message", "", ""}));
+    }
+
+    void longTextsFlow()
+    {
+        for (const int width : {231, 232}) {
+            const QString text = textOfWidth(width);
+            QCOMPARE(QFontMetrics(QFont()).horizontalAdvance(text), width);
+            const bool flows = width > 231;
+            ContactData contact;
+            contact.name = "Kim";
+            contact.memo = text;
+            contact.setNumbers({"1"}, {ContactData::Mobile});
+            DetailsDial *details = openDetails(store()->saveContact(contact, false));
+            list()->setSelectedIdx(3);
+            details->startTimer(); // the wait is over
+            details->flowString();
+            QCOMPARE(list()->item(3)->text(), flows ? text.mid(1) : text);
+            QCOMPARE(details->getFocusedNumber(3), text);
+            for (int i = 1; i < text.size() && flows; ++i)
+                details->flowString();
+            QCOMPARE(list()->item(3)->text(), text);
+            details->flowString();
+            list()->setSelectedIdx(2);
+            QCOMPARE(list()->item(3)->text(), text);
+        }
+    }
+
+    void messagesNeedALogin()
+    {
+        const int id = fullContact();
+        for (const QByteArray login : {"", "LoginMode=USER\n", "Id=4711\n"}) {
+            m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\n" + login);
+            openDetails(id);
+            list()->setSelectedIdx(2);
+            PhoneScript script;
+            script.keys({Qt::Key_Context2});
+            QCOMPARE((login.isEmpty() ? script.dismissToast() : script).run(), QString());
+            QCOMPARE(sent().filter("message ").join(','),
+                     QString(login.isEmpty() ? "" : "message newMessage(str) 1"));
+        }
+    }
+
+    void callsAndLeaves()
+    {
+        DetailsDial *details = openDetails(fullContact());
+        m_phone->core.callManager()->setCallState("CONNCECT");
+        clickAll({Qt::Key_Return, Qt::Key_Down, Qt::Key_Down, Qt::Key_Context1}); // a name is not called
+        QVERIFY(details->isVisible());
+        m_phone->core.callManager()->setCallState("IDLE");
+        sent();
+        click(Qt::Key_Return);
+        QVERIFY(!details->isVisible());
+        QCOMPARE(sent(),
+                 QStringList({"contact CloseContact()",
+                              "CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL 1 Kim AUDIO 2 -1"}));
+    }
+
+    void historyOfANumber()
+    {
+        DetailsDial *details = openDetails(fullContact());
+        list()->setSelectedIdx(2);
+        m_phone->core.callList()->addCall({"1", "", CallRecord::Incoming, QDateTime::currentDateTime(), 0});
+        sent();
+        details->showHistoryByNumber();
+        QCOMPARE(sent(), QStringList("history viewDetail(str) 1"));
+        QVERIFY(details->isVisible());
+        details->setTailClickedClose(true);
+        details->showHistoryByNumber();
+        QVERIFY(!details->isVisible());
+        QCOMPARE(sent().filter("history"), QStringList());
+    }
+
+    void groupMarksExcludeEachOther()
+    {
+        const int team = addGroup("Team");
+        addGroup("Chess");
+        auto *screen = open(new GroupList_At_Contact(nullptr, {team}));
+        const auto chosen = [](GroupList_At_Contact *groups) {
+            QStringList names;
+            for (const GroupData &group : groups->getGroupSelection())
+                names.append(group.name);
+            return names;
+        };
+        QCOMPARE(chosen(screen), QStringList("Team"));
+        for (const auto &[key, marked] : {
+                 std::pair(Qt::Key_Return, QStringList("Unassigned")), // the built-in group drives the others out
+                 {Qt::Key_Return, {}}, // it can be taken away itself
+                 {Qt::Key_Down, {}},
+                 {Qt::Key_Return, {"Team"}},
+                 {Qt::Key_Down, {"Team"}},
+                 {Qt::Key_Return, {"Team", "Chess"}},
+                 {Qt::Key_Return, {"Team"}},
+                 {Qt::Key_Up, {"Team"}},
+                 {Qt::Key_Return, {"Unassigned"}}, // the last mark brings it back
+             }) {
+            click(key);
+            QCOMPARE(chosen(screen), marked);
+        }
+        screen = open(new GroupList_At_Contact(nullptr, {}));
+        QCOMPARE(chosen(screen), QStringList());
+        int closed = 0;
+        connect(screen, &GroupList_At_Contact::closeEvent, this, [&closed] { ++closed; });
+        click(Qt::Key_Context4);
+        QVERIFY(!screen->isVisible());
+        QCOMPARE(closed, 1);
+        QCOMPARE(chosen(screen), QStringList("Unassigned"));
+    }
+
+    void refusesGroupNames()
+    {
+        const QString tenWide(10, QChar(0xae40)); // 30 bytes
+        auto *screen = open(new GroupList_At_Contact(nullptr, {1}));
+        const auto create = [](const QString &name) {
+            PhoneScript script;
+            script.opens(Qt::Key_Context1, "InputPopup").text(name).keys({Qt::Key_Context3}).dismissToast();
+            return script.run();
+        };
+        for (const auto &[name, groups] :
+             {std::pair(QString(), 1), {"New", 2}, {"New", 2}, {tenWide + "x", 2}, {tenWide, 3}}) {
+            QCOMPARE(create(name), QString());
+            QCOMPARE(store()->getCountOfGroup(), groups);
+            QCOMPARE(screen->getGroupSelection().size(), 1);
+        }
+        // Ten groups of one's own are the most.
+        for (int i = 3; i < 10; ++i)
+            addGroup(QString("Group %1").arg(i));
+        open(new GroupList_At_Contact(nullptr, {1}));
+        QCOMPARE(create("The tenth"), QString());
+        QCOMPARE(store()->getCountOfGroup(), 11);
+        QCOMPARE(PhoneScript().keys({Qt::Key_Context1}).dismissToast().run(), QString());
+    }
 
 private:
     ContactManager *store() const { return m_phone->core.contactManager(); }
@@ -57,209 +213,6 @@ private:
         return id;
     }
 };
-
-void DetailsTest::rowsOfAContact()
-{
-    openDetails(fullContact());
-    QCOMPARE(title(), QString("Contacts | Details"));
-    QCOMPARE(fields(),
-             QStringList({"Name=Kim", "Group=Chess,Team", "Mobile Number=1", "Fax Number=2",
-                          "Email=kim@example.org", "Bell=Morning", "Memo=met in spring"}));
-    TestScreen::shot("details-name");
-    const QStringList plain{"", "", "Delete", "Edit"}, number{"Call", "Message", "Delete", "Edit"};
-    for (const QStringList &expected : {plain, plain, number, number, plain, plain, plain, plain}) {
-        QCOMPARE(softKeys(), expected);
-        click(Qt::Key_Down);
-    }
-    click(Qt::Key_Down);
-    TestScreen::shot("details-number");
-    press(Qt::Key_Return);
-    TestScreen::shot("details-number-pressed");
-    list()->itemClear();
-    release(Qt::Key_Return);
-
-    openDetails(m_phone->addContact("Plain", {"7"}));
-    QCOMPARE(fields(), QStringList({"Name=Plain", "Group=Unassigned", "Company Number=7"}));
-    m_phone->connectMobile({"Mobile"});
-    m_phone->core.wpsmContactManager()->readWpsmConfigFile();
-    const ContactData mobile = m_phone->core.wpsmContactManager()->getAllContacts().value(0);
-    openDetails(mobile.id, mobile.type);
-    TestScreen::shot("details-mobile");
-    QCOMPARE(fields(), QStringList({"Name=Mobile", "Mobile Number=0701234567"}));
-    click(Qt::Key_Down);
-    QCOMPARE(softKeys(), QStringList({"Call", "Message", "", ""}));
-}
-
-/// A text of exactly that width: wide letters, the last ones exchanged for narrow ones.
-static QString textOfWidth(int width)
-{
-    const QFontMetrics metrics((QFont()));
-    QString text;
-    for (int size = 18; size < 60 && metrics.horizontalAdvance(text) != width; ++size) {
-        text = QString(size, 'n');
-        for (int i = size - 1; i >= 0 && metrics.horizontalAdvance(text) > width; --i)
-            text[i] = 'i';
-    }
-    return text;
-}
-
-void DetailsTest::longTextsFlow()
-{
-    for (const int width : {231, 232}) {
-        const QString text = textOfWidth(width);
-        QCOMPARE(QFontMetrics(QFont()).horizontalAdvance(text), width);
-        const bool flows = width > 231;
-        ContactData contact;
-        contact.name = "Kim";
-        contact.memo = text;
-        contact.setNumbers({"1"}, {ContactData::Mobile});
-        DetailsDial *details = openDetails(store()->saveContact(contact, false));
-        list()->setSelectedIdx(3);
-        details->startTimer(); // the wait is over
-        details->flowString();
-        QCOMPARE(list()->item(3)->text(), flows ? text.mid(1) : text);
-        TestScreen::shot(QString("details-%1-wide").arg(width));
-        QCOMPARE(details->getFocusedNumber(3), text);
-        for (int i = 1; i < text.size() && flows; ++i)
-            details->flowString();
-        QCOMPARE(list()->item(3)->text(), text);
-        details->flowString();
-        list()->setSelectedIdx(2);
-        QCOMPARE(list()->item(3)->text(), text);
-    }
-}
-
-void DetailsTest::messagesNeedALogin()
-{
-    const int id = fullContact();
-    const QByteArray logins[] = {"", "LoginMode=USER\n", "Id=4711\n"};
-    for (const QByteArray &login : logins) {
-        m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\n" + login);
-        openDetails(id);
-        list()->setSelectedIdx(2);
-        PhoneScript script;
-        script.keys({Qt::Key_Context2});
-        if (login.isEmpty())
-            script.dismissToast();
-        QCOMPARE(script.run(), QString());
-        QCOMPARE(sent().filter("message "),
-                 login.isEmpty() ? QStringList() : QStringList("message newMessage(str) 1"));
-    }
-}
-
-void DetailsTest::callsAndLeaves()
-{
-    DetailsDial *details = openDetails(fullContact());
-    details->clickedListViewItem(0);
-    QVERIFY(details->isVisible());
-    m_phone->core.callManager()->setCallState("CONNCECT");
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Context1})
-        click(key);
-    QVERIFY(details->isVisible());
-    m_phone->core.callManager()->setCallState("IDLE");
-    sent();
-    click(Qt::Key_Return);
-    QVERIFY(!details->isVisible());
-    QCOMPARE(sent(),
-             QStringList({"contact CloseContact()",
-                          "CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL 1 Kim AUDIO 2 -1"}));
-}
-
-void DetailsTest::historyOfANumber()
-{
-    DetailsDial *details = openDetails(fullContact());
-    list()->setSelectedIdx(2);
-    QVERIFY(m_phone->core.callList()->addCall({"1", "", CallRecord::Incoming, QDateTime::currentDateTime(), 0}));
-    sent();
-    details->showHistoryByNumber();
-    QCOMPARE(sent(), QStringList("history viewDetail(str) 1"));
-    QVERIFY(details->isVisible());
-    details->setTailClickedClose(true);
-    details->showHistoryByNumber();
-    QVERIFY(!details->isVisible());
-    QCOMPARE(sent().filter("history"), QStringList());
-}
-
-void DetailsTest::deletes()
-{
-    const DetailsDial *details = openDetails(fullContact());
-    sent();
-    const auto isThere = [this] { return store()->getCountOfContact() == 1; };
-    PhoneScript script;
-    script.opens(Qt::Key_Context3, "MessageBox").opens(Qt::Key_Escape, "DetailsDial").until("no harm", isThere);
-    script.opens(Qt::Key_Context3, "MessageBox").keys({Qt::Key_Context3}).dismissToast();
-    QCOMPARE(script.run(), QString());
-    QVERIFY(!details->isVisible());
-    QCOMPARE(store()->getCountOfContact(), 0);
-    QCOMPARE(sent().filter("idle "), QStringList("idle contactDeletedNumber(str) 1"));
-}
-
-void DetailsTest::groupMarksExcludeEachOther()
-{
-    const int team = addGroup("Team");
-    addGroup("Chess");
-    auto *screen = open(new GroupList_At_Contact(nullptr, {team}));
-    const auto chosen = [](GroupList_At_Contact *groups) {
-        QStringList names;
-        for (const GroupData &group : groups->getGroupSelection())
-            names.append(group.name);
-        return names;
-    };
-    QCOMPARE(chosen(screen), QStringList("Team"));
-    const QList<QPair<Qt::Key, QStringList>> steps = {
-        {Qt::Key_Return, {"Unassigned"}}, // the built-in group drives the others out
-        {Qt::Key_Return, {}}, // it can be taken away itself
-        {Qt::Key_Down, {}},
-        {Qt::Key_Return, {"Team"}},
-        {Qt::Key_Down, {"Team"}},
-        {Qt::Key_Return, {"Team", "Chess"}},
-        {Qt::Key_Return, {"Team"}},
-        {Qt::Key_Up, {"Team"}},
-        {Qt::Key_Return, {"Unassigned"}}, // the last mark brings it back
-    };
-    for (const auto &step : steps) {
-        click(step.first);
-        QCOMPARE(chosen(screen), step.second);
-    }
-    TestScreen::shot("groups-at-contact");
-
-    screen = open(new GroupList_At_Contact(nullptr, {}));
-    QCOMPARE(chosen(screen), QStringList());
-    int closed = 0;
-    connect(screen, &GroupList_At_Contact::closeEvent, this, [&closed] { ++closed; });
-    click(Qt::Key_Context4);
-    QVERIFY(!screen->isVisible());
-    QCOMPARE(closed, 1);
-    QCOMPARE(chosen(screen), QStringList("Unassigned"));
-}
-
-void DetailsTest::refusesGroupNames()
-{
-    const QString tenWide(10, QChar(0xae40)); // 30 bytes
-    const QList<QPair<QString, int>> names = {{"", 1}, {"New", 2}, {"New", 2}, {tenWide + "x", 2}, {tenWide, 3}};
-    auto *screen = open(new GroupList_At_Contact(nullptr, {1}));
-    const auto create = [](const QString &name) {
-        PhoneScript script;
-        script.keys({Qt::Key_Context1})
-            .untilActive("InputPopup")
-            .text(name)
-            .keys({Qt::Key_Context3})
-            .dismissToast();
-        return script.run();
-    };
-    for (const auto &name : names) {
-        QCOMPARE(create(name.first), QString());
-        QCOMPARE(store()->getCountOfGroup(), name.second);
-        QCOMPARE(screen->getGroupSelection().size(), 1);
-    }
-    // Ten groups of one's own are the most.
-    for (int i = 3; i < 10; ++i)
-        addGroup(QString("Group %1").arg(i));
-    open(new GroupList_At_Contact(nullptr, {1}));
-    QCOMPARE(create("The tenth"), QString());
-    QCOMPARE(store()->getCountOfGroup(), 11);
-    QCOMPARE(PhoneScript().keys({Qt::Key_Context1}).dismissToast().run(), QString());
-}
 
 PHONE_TEST_MAIN(DetailsTest)
 #include "tst_details.moc"

@@ -17,10 +17,118 @@ class DirectoryTest : public NeighbourTest<Contact>
     Q_OBJECT
 
 private slots:
-    void requests();
-    void pagesOfATotal();
-    void rowsOfAnAnswer();
-    void numberOfTheFocusedRow();
+    void requests()
+    {
+        // A word, the method, and a notice or how the request ends.
+        const QList<std::tuple<const char *, int, const char *>> cases
+            = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
+               {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
+               {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
+        m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=server\n");
+        m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=secret\n");
+        for (const auto &[word, method, says] : cases) {
+            DirectorySettings::setPage(7);
+            SearchDir form(nullptr, word);
+            QVERIFY(showAndActivate(&form));
+            QString said;
+            QTimer::singleShot(50, &form, [&] {
+                if (auto *toast = form.findChild<Toast *>()) {
+                    said = toast->message();
+                    toast->timeout();
+                }
+            });
+            form.searchBegin(form.getSearchWord(), method);
+            const QString request = sent().value(0);
+            QVERIFY2((said + request).endsWith(says), qPrintable(said + request));
+            QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
+            QCOMPARE(int(m_phone->core.getIMEStatus()), int(said.startsWith("Input") ? IMENumeric : IMESmall));
+        }
+    }
+
+    void pagesOfATotal()
+    {
+        // The total, the page, and the title and page keys for them; beyond the last they stay.
+        const QList<std::tuple<int, int, const char *, const char *>> cases = {{0, 3, "", " "},
+                                                                               {20, 1, " | 1/1page", " "},
+                                                                               {21, 1, " | 1/2page", " >"},
+                                                                               {40, 2, " | 2/2page", "< "},
+                                                                               {41, 2, " | 2/3page", "< >"},
+                                                                               {41, 4, " | 4/3page", "< >"}};
+        const QList<QList<DirectoryData>> none, some{entry({{"name", "A"}, {"number", "1"}})};
+        for (const auto &[total, page, place, pageKeys] : cases) {
+            DirectorySettings::setPage(2);
+            SearchDirResult results(nullptr, some, 50);
+            QVERIFY(showAndActivate(&results));
+            DirectorySettings::setPage(page);
+            results.setupResultData(total ? some : none, total);
+            QCOMPARE(title(), QString("Directory Service") + place);
+            QCOMPARE(softKeys(&results).mid(2).join(' '), QString(pageKeys));
+            QCOMPARE(softKeys(&results).first(), QString(total ? "Call" : ""));
+            QCOMPARE(list(&results)->isVisible(), total > 0);
+            QCOMPARE(DirectorySettings::page(), total ? page : 1);
+        }
+    }
+
+    void rowsOfAnAnswer()
+    {
+        const auto first
+            = entry({{"type", "Staff"}, {"name", "Thirteen_char"}, {"number", "1"}, {"cell", "2", "phone"}});
+        const auto second = entry({{"name", "Fourteen_chars"}});
+        for (const int mode : {0, 2, 3}) {
+            SearchDirResult results(nullptr, {first, second, {}}, 3);
+            results.setMode(mode);
+            QVERIFY(showAndActivate(&results));
+            QCOMPARE(list(&results)->item(0)->text(), QString("Thirteen_char"));
+            QCOMPARE(list(&results)->item(1)->text(), QString("Fourteen_c..."));
+            QCOMPARE(list(&results)->itemSize(), 3);
+            QCOMPARE(softKeys(&results).first(), QString(mode == 2 ? "" : "Call"));
+            click(mode ? Qt::Key_Return : Qt::Key_Context1);
+            QVERIFY(!results.isVisible());
+            const QString toIdle = "idle searchContactResult(str,str) Thirteen_char 1";
+            const QStringList messages[] = {{Close, call("1", "Thirteen_char")},
+                                            {},
+                                            {"message setReceiver(str) 1", "contact closeSearchAll()"},
+                                            {toIdle, QString(toIdle).replace("idle", "aom"), Close}};
+            QCOMPARE(sent(), messages[mode]);
+            // A first entry without fields makes an answer useless, but for its number of pages.
+            results.setupResultData({{}, first}, 30);
+            QVERIFY(showAndActivate(&results));
+            QCOMPARE(softKeys(&results).mid(0, 2), QStringList({"", ""}));
+            click(Qt::Key_Return);
+            QVERIFY(results.isVisible());
+        }
+    }
+
+    void numberOfTheFocusedRow()
+    {
+        const QString whole(21, '1'), mobile(25, '4');
+        // How many digits the number has, the row, and the number that is called there.
+        const QList<std::tuple<int, int, QString>> cases
+            = {{20, 0, whole.left(20)}, {21, 0, whole.left(18) + "..."},
+               {21, 1, whole},          {21, 2, ""},
+               {21, 5, mobile},         {0, 1, ""}};
+        ListeningApp messages("message");
+        for (const auto &[digits, row, called] : cases) {
+            const QList<QStringList> fields{{"name", "Anna"},
+                                            {"number", whole.left(digits)},
+                                            {"cell", "3", "phone"},
+                                            {"car", mobile, "phone"},
+                                            {"room", "7"}};
+            DirectorySearchDetail detail(nullptr, entry(fields));
+            QVERIFY(showAndActivate(&detail));
+            for (int i = 0; i < row; ++i)
+                click(Qt::Key_Down);
+            const bool offered = !called.isEmpty();
+            QCOMPARE(softKeys(&detail), QStringList({"Save", offered ? "Call" : "", offered ? "Message" : "", ""}));
+            if (row != 1)
+                click(Qt::Key_Return); // acts on the number alone
+            QVERIFY(detail.isVisible());
+            click(Qt::Key_Context3);
+            click(Qt::Key_Context2);
+            const QStringList both{"message newMessage(str) " + called, Close, call(called, "Anna")};
+            QCOMPARE(sent(), offered ? both : QStringList());
+        }
+    }
 
 private:
     static QList<DirectoryData> entry(const QList<QStringList> &fields)
@@ -37,131 +145,6 @@ private:
     }
     static constexpr auto Close = "contact CloseContact()";
 };
-
-void DirectoryTest::requests()
-{
-    const struct
-    {
-        const char *word;
-        int method;
-        const char *says; ///< a notice, or how the request ends
-    } cases[] = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
-                 {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
-                 {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
-    m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=server\n");
-    m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=secret\n");
-    for (const auto &one : cases) {
-        DirectorySettings::setPage(7);
-        SearchDir form(nullptr, one.word);
-        QVERIFY(showAndActivate(&form));
-        QString said;
-        QTimer::singleShot(50, &form, [&] {
-            if (auto *toast = form.findChild<Toast *>()) {
-                said = toast->message();
-                toast->timeout();
-            }
-        });
-        form.searchBegin(form.getSearchWord(), one.method);
-        const QString request = sent().value(0);
-        QVERIFY2((said + request).endsWith(one.says), qPrintable(said + request));
-        QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
-        QCOMPARE(int(m_phone->core.getIMEStatus()), int(said.startsWith("Input") ? IMENumeric : IMESmall));
-    }
-}
-
-void DirectoryTest::pagesOfATotal()
-{
-    const struct
-    {
-        int total, page;
-        const char *place, *pageKeys;
-    } cases[] = {{0, 3, "", " "},
-                 {1, 1, " | 1/1page", " "},
-                 {20, 1, " | 1/1page", " "},
-                 {21, 1, " | 1/2page", " >"},
-                 {40, 2, " | 2/2page", "< "},
-                 {41, 2, " | 2/3page", "< >"},
-                 {41, 4, " | 4/3page", "< >"}}; // beyond: as they were
-    const QList<QList<DirectoryData>> none, some{entry({{"name", "A"}, {"number", "1"}})};
-    for (const auto &one : cases) {
-        DirectorySettings::setPage(2);
-        SearchDirResult results(nullptr, some, 50);
-        QVERIFY(showAndActivate(&results));
-        DirectorySettings::setPage(one.page);
-        results.setupResultData(one.total ? some : none, one.total);
-        QCOMPARE(title(), QString("Directory Service") + one.place);
-        QCOMPARE(softKeys(&results).mid(2).join(' '), QString(one.pageKeys));
-        QCOMPARE(softKeys(&results).first(), QString(one.total ? "Call" : ""));
-        QCOMPARE(list(&results)->isVisible(), one.total > 0);
-        QCOMPARE(DirectorySettings::page(), one.total ? one.page : 1);
-        TestScreen::shot(QString("directory-page-%1-of-%2").arg(one.page).arg(one.total));
-    }
-}
-
-void DirectoryTest::rowsOfAnAnswer()
-{
-    const auto first
-        = entry({{"type", "Staff"}, {"name", "Thirteen_char"}, {"number", "1"}, {"cell", "2", "phone"}});
-    const auto second = entry({{"name", "Fourteen_chars"}});
-    for (const int mode : {0, 2, 3}) {
-        SearchDirResult results(nullptr, {first, second, {}}, 3);
-        results.setMode(mode);
-        QVERIFY(showAndActivate(&results));
-        QCOMPARE(list(&results)->item(0)->text(), QString("Thirteen_char"));
-        QCOMPARE(list(&results)->item(1)->text(), QString("Fourteen_c..."));
-        QCOMPARE(list(&results)->itemSize(), 3);
-        QCOMPARE(softKeys(&results).first(), QString(mode == 2 ? "" : "Call"));
-        TestScreen::shot("directory-results");
-        click(mode ? Qt::Key_Return : Qt::Key_Context1);
-        QVERIFY(!results.isVisible());
-        const QString toIdle = "idle searchContactResult(str,str) Thirteen_char 1";
-        const QStringList messages[] = {{Close, call("1", "Thirteen_char")},
-                                        {},
-                                        {"message setReceiver(str) 1", "contact closeSearchAll()"},
-                                        {toIdle, QString(toIdle).replace("idle", "aom"), Close}};
-        QCOMPARE(sent(), messages[mode]);
-        // A first entry without fields makes an answer useless, but for its number of pages.
-        results.setupResultData({{}, first}, 30);
-        QVERIFY(showAndActivate(&results));
-        QCOMPARE(softKeys(&results).mid(0, 2), QStringList({"", ""}));
-        click(Qt::Key_Return);
-        QVERIFY(results.isVisible());
-    }
-}
-
-void DirectoryTest::numberOfTheFocusedRow()
-{
-    const QString whole(21, '1'), mobile(25, '4');
-    const struct
-    {
-        int digits, row;
-        QString called;
-    } cases[] = {{20, 0, whole.left(20)}, {21, 0, whole.left(18) + "..."},
-                 {21, 1, whole},          {21, 2, ""},
-                 {21, 5, mobile},         {0, 1, ""}};
-    ListeningApp messages("message");
-    for (const auto &one : cases) {
-        DirectorySearchDetail detail(nullptr,
-                                     entry({{"name", "Anna"},
-                                            {"number", whole.left(one.digits)},
-                                            {"cell", "3", "phone"},
-                                            {"car", mobile, "phone"},
-                                            {"room", "7"}}));
-        QVERIFY(showAndActivate(&detail));
-        for (int i = 0; i < one.row; ++i)
-            click(Qt::Key_Down);
-        const bool offered = !one.called.isEmpty();
-        QCOMPARE(softKeys(&detail), QStringList({"Save", offered ? "Call" : "", offered ? "Message" : "", ""}));
-        TestScreen::shot(QString("directory-detail-%1").arg(one.row));
-        if (one.row != 1)
-            click(Qt::Key_Return); // acts on the number alone
-        QVERIFY(detail.isVisible());
-        click(Qt::Key_Context3);
-        click(Qt::Key_Context2);
-        const QStringList both{"message newMessage(str) " + one.called, Close, call(one.called, "Anna")};
-        QCOMPARE(sent(), offered ? both : QStringList());
-    }
-}
 
 PHONE_TEST_MAIN(DirectoryTest)
 #include "tst_directory.moc"

@@ -6,17 +6,6 @@
 
 #include <expat.h>
 
-/// The reader against Expat, over the documents that the installed packages hold.
-class TestEzxmlExpat : public TestCase
-{
-    Q_OBJECT
-
-private slots:
-    void installedDocuments();
-};
-
-namespace {
-
 /// Follows a tree while Expat reads the same document, and notes the first place where they differ.
 class Comparison
 {
@@ -98,40 +87,46 @@ private:
     QByteArray m_difference;
 };
 
-QByteArray utf16(const QByteArray &utf8, const char *codec)
+static QByteArray utf16(const QByteArray &utf8, const char *codec)
 {
     return QTextCodec::codecForName(codec)->fromUnicode(QString::fromUtf8(utf8)); // with a byte-order mark
 }
 
-}
-
-void TestEzxmlExpat::installedDocuments()
+/// The reader against Expat, over the documents that the installed packages hold.
+class TestEzxmlExpat : public TestCase
 {
-    int compared = 0;
-    for (const char *folder : {"/usr/share/mime", "/usr/share/X11/xkb/rules", "/usr/share/fontconfig/conf.avail"}) {
-        QDirIterator files(folder, {"*.xml", "*.conf"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            QFile file(files.next());
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QByteArray document = file.readAll();
-            for (QByteArray text : {document, utf16(document, "UTF-16LE"), utf16(document, "UTF-16BE")}) {
-                ezxml *root = ezxml_parse_str(text.data(), size_t(text.size()));
-                Comparison comparison(root);
-                const bool isFit = comparison.run(document);
-                const QByteArray error = ezxml_error(root);
-                ezxml_free(root);
-                if (!isFit)
-                    continue;
-                QVERIFY2(error.isEmpty(), file.fileName().toLocal8Bit() + ": " + error);
-                QVERIFY2(comparison.difference().isEmpty(),
-                         file.fileName().toLocal8Bit() + ": " + comparison.difference());
-                ++compared;
+    Q_OBJECT
+
+private slots:
+    void installedDocuments()
+    {
+        int compared = 0;
+        for (const char *folder :
+             {"/usr/share/mime", "/usr/share/X11/xkb/rules", "/usr/share/fontconfig/conf.avail"}) {
+            QDirIterator files(folder, {"*.xml", "*.conf"}, QDir::Files, QDirIterator::Subdirectories);
+            while (files.hasNext()) {
+                QFile file(files.next());
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                const QByteArray document = file.readAll();
+                for (QByteArray text : {document, utf16(document, "UTF-16LE"), utf16(document, "UTF-16BE")}) {
+                    ezxml *root = ezxml_parse_str(text.data(), size_t(text.size()));
+                    Comparison comparison(root);
+                    const bool isFit = comparison.run(document);
+                    const QByteArray error = ezxml_error(root);
+                    ezxml_free(root);
+                    if (!isFit)
+                        continue;
+                    QVERIFY2(error.isEmpty(), file.fileName().toLocal8Bit() + ": " + error);
+                    QVERIFY2(comparison.difference().isEmpty(),
+                             file.fileName().toLocal8Bit() + ": " + comparison.difference());
+                    ++compared;
+                }
             }
         }
+        qInfo("%d documents compared", compared);
+        QVERIFY2(compared > 900, "the packages that hold the documents are missing");
     }
-    qInfo("%d documents compared", compared);
-    QVERIFY2(compared > 900, "the packages that hold the documents are missing");
-}
+};
 
 QTEST_GUILESS_MAIN(TestEzxmlExpat)
 #include "tst_ezxmlexpat.moc"

@@ -11,18 +11,118 @@ class CmTest : public PeerTest
 {
     Q_OBJECT
 
-    void setUp() override;
+    void setUp() override
+    {
+        makePhone("call");
+        m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=20\nAnswerTime=20\nBusyTime=20\n");
+        QVERIFY(startPeer("cm"));
+    }
 
 private slots:
-    void aCall_data();
-    void aCall();
-    void hangingUp();
-    void anotherCallIsRefused();
-    void conferenceAndTransfer();
-    void namesInTheCharsetOfThePhone();
-    void whatIsNoRequest_data();
-    void whatIsNoRequest();
-    void aPortThatIsTaken();
+    void aCall_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QStringList>("states");
+        QTest::newRow("answered") << dialer("NORMAL", "5551", "Zoë")
+                                  << QStringList{"DIALING 5551 Zoë", "ALERT 5551 Zoë", "CONNECT 5551 Zoë"};
+        QTest::newRow("busy") << dialer("NORMAL", "5*00", "Zoë")
+                              << QStringList{"DIALING 5*00 Zoë", "BUSY 5*00 Zoë", "IDLE 5*00 Zoë"};
+        QTest::newRow("from a directory, round hundreds are not busy")
+            << directory("NEW_CALL", "+500") << QStringList{"DIALING +500", "ALERT +500", "CONNECT +500"};
+    }
+
+    void aCall()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QStringList, states);
+        send(request);
+        QTRY_COMPARE(m_app->heard.size(), states.size());
+        QCOMPARE(m_app->heard, states);
+    }
+
+    void hangingUp()
+    {
+        ToCMSocket::sendUI2CMSvcHangup(); // of nothing
+        ToCMSocket::sendUI2CMSvcDialer(0, "NORMAL", "1", "", "AUDIO", 2, -1);
+        QTRY_COMPARE(m_app->heard.value(2), QString("CONNECT 1"));
+        ToCMSocket::sendUI2CMSvcHangup();
+        QTRY_COMPARE(m_app->heard.value(3), QString("IDLE 1"));
+        // One that is not answered yet can be left too, and nobody answers it then.
+        m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=60000\n");
+        send(directory("NEW_CALL", "2"));
+        ToCMSocket::sendUI2CMSvcHangup();
+        QTRY_COMPARE(m_app->heard.mid(4), (QStringList{"DIALING 2", "IDLE 2"}));
+    }
+
+    void anotherCallIsRefused()
+    {
+        send(directory("NEW_CALL", "1"));
+        send(directory("NEW_CALL", "2"));
+        QVERIFY(logs("A call was refused: another is under way"));
+        QTRY_COMPARE(m_app->heard, (QStringList{"DIALING 1", "ALERT 1", "CONNECT 1"}));
+    }
+
+    void conferenceAndTransfer()
+    {
+        send(directory("COA_CONF", "3"));
+        QVERIFY(logs("there is no conversation"));
+        send(dialer("NORMAL", "1", "Ann"));
+        QTRY_COMPARE(m_app->heard.size(), 3);
+        send(directory("COA_CONF", "3"));
+        QTRY_COMPARE(m_app->heard.value(3), QString("CONNECT 1 Ann, 3"));
+        send(directory("SEMI_BLIND_XFER", "4"));
+        QTRY_COMPARE(m_app->heard.value(4), QString("IDLE 1 Ann, 3"));
+    }
+
+    void namesInTheCharsetOfThePhone()
+    {
+        m_peer->kill();
+        m_peer->waitForFinished();
+        m_phone->writeFile("config/system.conf", "[System]\nCharset=euc-kr\n");
+        QVERIFY(startPeer("cm"));
+        send(dialer("NORMAL", "1", "\xb1\xe8")); // 김
+        QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 1 김"));
+    }
+
+    void whatIsNoRequest_data()
+    {
+        QTest::addColumn<QByteArray>("datagram");
+        QTest::addColumn<QByteArray>("fault");
+        const auto row = [](const QByteArray &fault, const char *kind, const QByteArray &datagram) {
+            QTest::newRow(kind) << datagram << fault;
+        };
+        const QByteArray good = directory("NEW_CALL", "1");
+        row("it is no message", "empty", "");
+        row("it is no message", "something behind it", good + "x");
+        row("it is no message", "longer than the wire allows", directory("NEW_CALL", QByteArray(5000, '1')));
+        row("it is for another process", "for another", QByteArray(good).replace("CM/UI", "XCID/UI"));
+        row("there is no such request", "another signature",
+            message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}));
+        row("there is nothing to dial", "no number", dialer("NORMAL", "nobody", ""));
+        row("there is no such dial mode", "a dial mode", dialer("", "1", ""));
+        row("there is no such call mode", "a call mode", dialer("NORMAL", "1", "", "VIDEO"));
+        row("there is no such directory mode", "a directory mode", directory("OTHER", "1"));
+    }
+
+    void whatIsNoRequest()
+    {
+        QFETCH(QByteArray, datagram);
+        QFETCH(QByteArray, fault);
+        send(datagram);
+        QVERIFY(logs("A datagram was dropped: " + fault));
+        // It still serves, and nothing came of the other.
+        send(directory("NEW_CALL", "7"));
+        QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 7"));
+    }
+
+    void aPortThatIsTaken()
+    {
+        QProcess second;
+        second.start(PHONE_PROGRAMS "/cm", {"--home", m_phone->home.root()});
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.exitCode(), 1);
+        QVERIFY(second.readAllStandardError().contains("cannot be used"));
+    }
 
 private:
     void send(const QByteArray &datagram) { QUdpSocket().writeDatagram(datagram, QHostAddress::LocalHost, m_port); }
@@ -37,122 +137,6 @@ private:
             {"CM/UI", "ui2cm_svc_dialer(int,str,str,str,str,int,int)", {0, mode, number, name, callMode, 2, -1}});
     }
 };
-
-void CmTest::setUp()
-{
-    makePhone("call");
-    m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=20\nAnswerTime=20\nBusyTime=20\n");
-    QVERIFY(startPeer("cm"));
-}
-
-void CmTest::aCall_data()
-{
-    QTest::addColumn<QByteArray>("request");
-    QTest::addColumn<QStringList>("states");
-    QTest::newRow("answered") << dialer("NORMAL", "5551", "Zoë")
-                              << QStringList{"DIALING 5551 Zoë", "ALERT 5551 Zoë", "CONNECT 5551 Zoë"};
-    QTest::newRow("busy") << dialer("NORMAL", "5*00", "Zoë")
-                          << QStringList{"DIALING 5*00 Zoë", "BUSY 5*00 Zoë", "IDLE 5*00 Zoë"};
-    QTest::newRow("round hundreds are not busy")
-        << dialer("NORMAL", "500", "") << QStringList{"DIALING 500", "ALERT 500", "CONNECT 500"};
-    QTest::newRow("from a directory") << directory("NEW_CALL", "+49 89")
-                                      << QStringList{"DIALING +49 89", "ALERT +49 89", "CONNECT +49 89"};
-}
-
-void CmTest::aCall()
-{
-    QFETCH(QByteArray, request);
-    QFETCH(QStringList, states);
-    send(request);
-    QTRY_COMPARE(m_app->heard.size(), states.size());
-    QCOMPARE(m_app->heard, states);
-}
-
-void CmTest::hangingUp()
-{
-    ToCMSocket::sendUI2CMSvcHangup(); // of nothing
-    ToCMSocket::sendUI2CMSvcDialer(0, "NORMAL", "1", "", "AUDIO", 2, -1);
-    QTRY_COMPARE(m_app->heard.value(2), QString("CONNECT 1"));
-    ToCMSocket::sendUI2CMSvcHangup();
-    QTRY_COMPARE(m_app->heard.value(3), QString("IDLE 1"));
-    // One that is not answered yet can be left too, and nobody answers it then.
-    m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=60000\n");
-    send(directory("NEW_CALL", "2"));
-    ToCMSocket::sendUI2CMSvcHangup();
-    QTRY_COMPARE(m_app->heard.mid(4), (QStringList{"DIALING 2", "IDLE 2"}));
-}
-
-void CmTest::anotherCallIsRefused()
-{
-    send(directory("NEW_CALL", "1"));
-    send(directory("NEW_CALL", "2"));
-    QVERIFY(logs("A call was refused: another is under way"));
-    QTRY_COMPARE(m_app->heard, (QStringList{"DIALING 1", "ALERT 1", "CONNECT 1"}));
-}
-
-void CmTest::conferenceAndTransfer()
-{
-    send(directory("COA_CONF", "3"));
-    QVERIFY(logs("there is no conversation"));
-    send(dialer("NORMAL", "1", "Ann"));
-    QTRY_COMPARE(m_app->heard.size(), 3);
-    send(directory("COA_CONF", "3"));
-    QTRY_COMPARE(m_app->heard.value(3), QString("CONNECT 1 Ann, 3"));
-    send(directory("SEMI_BLIND_XFER", "4"));
-    QTRY_COMPARE(m_app->heard.value(4), QString("IDLE 1 Ann, 3"));
-}
-
-void CmTest::namesInTheCharsetOfThePhone()
-{
-    m_peer->kill();
-    m_peer->waitForFinished();
-    m_phone->writeFile("config/system.conf", "[System]\nCharset=euc-kr\n");
-    QVERIFY(startPeer("cm"));
-    send(dialer("NORMAL", "1", "\xb1\xe8")); // 김
-    QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 1 김"));
-}
-
-void CmTest::whatIsNoRequest_data()
-{
-    QTest::addColumn<QByteArray>("datagram");
-    QTest::addColumn<QByteArray>("fault");
-    const QByteArray good = directory("NEW_CALL", "1");
-    QTest::newRow("empty") << QByteArray() << QByteArray("it is no message");
-    QTest::newRow("garbage") << QByteArray("\x00\xff\x00 garbage", 11) << QByteArray("it is no message");
-    QTest::newRow("cut off") << good.chopped(1) << QByteArray("it is no message");
-    QTest::newRow("something behind it") << good + "x" << QByteArray("it is no message");
-    QTest::newRow("longer than the wire allows")
-        << directory("NEW_CALL", QByteArray(5000, '1')) << QByteArray("it is no message");
-    QTest::newRow("for another") << QByteArray(good).replace("CM/UI", "XCID/UI")
-                                 << QByteArray("it is for another process");
-    QTest::newRow("another signature") << message_MakeFromValues(
-        {"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}})
-                                       << QByteArray("there is no such request");
-    QTest::newRow("nothing to dial") << dialer("NORMAL", "nobody", "") << QByteArray("there is nothing to dial");
-    QTest::newRow("a dial mode") << dialer("", "1", "") << QByteArray("there is no such dial mode");
-    QTest::newRow("a call mode") << dialer("NORMAL", "1", "", "VIDEO") << QByteArray("there is no such call mode");
-    QTest::newRow("a directory mode") << directory("OTHER", "1") << QByteArray("there is no such directory mode");
-}
-
-void CmTest::whatIsNoRequest()
-{
-    QFETCH(QByteArray, datagram);
-    QFETCH(QByteArray, fault);
-    send(datagram);
-    QVERIFY(logs("A datagram was dropped: " + fault));
-    // It still serves, and nothing came of the other.
-    send(directory("NEW_CALL", "7"));
-    QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 7"));
-}
-
-void CmTest::aPortThatIsTaken()
-{
-    QProcess second;
-    second.start(PHONE_PROGRAMS "/cm", {"--home", m_phone->home.root()});
-    QVERIFY(second.waitForFinished());
-    QCOMPARE(second.exitCode(), 1);
-    QVERIFY(second.readAllStandardError().contains("cannot be used"));
-}
 
 PHONE_TEST_MAIN(CmTest)
 #include "tst_cm.moc"

@@ -3,12 +3,14 @@
 . "$(dirname "$0")/support.sh"
 
 phoneui --empty --script /dev/null
-printf '[Info]\nCount=2\n' >"$PHONE_HOME/config/phonebook.conf"
+printf '[Info]\nCount=-1\n' >"$PHONE_HOME/config/phonebook.conf"
 start_phone
 phonectl key Soft1
 phonectl expect title Contacts
 phonectl expect rows 'Personal Phonebook' 'System Phonebook'
 phonectl expect softkeys '' '' '' ''
+phonectl send contact 'api2ui_noti_contact_changed()' # leaves it in front
+phonectl expect rows 'Personal Phonebook' 'System Phonebook'
 phonectl key Ok
 phonectl expect title 'Contacts | All (0/0)'
 phonectl key Esc

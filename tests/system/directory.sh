@@ -80,16 +80,3 @@ serve http "${directory[@]}"
 phonectl key Soft4
 phonectl expect title "Directory Service | 1/3page"
 phonectl key Esc
-
-# Only a file of the phone's own is an answer. It is read and gone, and opens nothing once the form is left.
-respond() { phonectl send contact 'http2ui_directory_service_response(str,int)' "$1" 0; }
-foreign=$work/foreign.xml own=$PHONE_HOME/run/directory-AbCdEf.xml
-echo '<d><display count="1"/><item><data><type>name</type></data></item></d>' | tee "$foreign" >"$own"
-respond "$foreign"
-phonectl expect screen SearchDir
-[ -s "$foreign" ] || fail "a file of somebody else's"
-phonectl key Esc
-phonectl expect title Home
-respond "$own"
-phonectl expect title Home
-[ ! -e "$own" ] || fail "the answer to a form that was left"

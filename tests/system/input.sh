@@ -6,6 +6,7 @@ phoneui --empty --no-peers --script /dev/null
 printf '[Input]\nMultiTapTime=150\n' >>"$PHONE_HOME/config/system.conf"
 cd "$work"
 phoneui --no-peers --language ko_KR --script "$here/input.keys"
-for picture in korean digits; do
-    [ -z "${PHONE_PICTURES:-}" ] || cp "$picture.png" "$PHONE_PICTURES/system-input-$picture.png"
-done
+if [ -n "${PHONE_PICTURES:-}" ]; then
+    mkdir -p "$PHONE_PICTURES"
+    for picture in korean digits; do cp $picture.png "$PHONE_PICTURES/system-input-$picture.png"; done
+fi

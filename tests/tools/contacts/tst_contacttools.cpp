@@ -1,12 +1,9 @@
 #include "contactmanager.h"
-#include "message.h"
 #include "phonehome.h"
 #include "testcase.h"
 #include "wpsmcontactmanager.h"
 
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -17,12 +14,98 @@ class TestContactTools : public TestCase
     Q_OBJECT
 
 private slots:
-    void help();
-    void importListAndExport();
-    void importBroken();
-    void runningPhoneIsTold();
-    void deviceComesAndGoes();
-    void brokenDeviceChangesNothing();
+    void help()
+    {
+        for (const char *program : {"phonebook", "wpsm"}) {
+            QCOMPARE(run(program, {"--help"}), 0);
+            QVERIFY(m_out.contains("--home"));
+            QCOMPARE(run(program, {"nonsense"}), 2);
+            QCOMPARE(runAtHome(program, {"import"}), 2);
+        }
+        QVERIFY(!QDir(m_home->root()).exists());
+        QCOMPARE(runAtHome("phonebook", {"list"}), 1);
+        QCOMPARE(runAtHome("phonebook", {"import", "missing.vcf"}), 1);
+    }
+
+    void importListAndExport()
+    {
+        const QString listed = "1\tKim\t0101 mobile, 02 fax\tWork, Team\n2\t이민준\t3 etc\t\n";
+        QCOMPARE(runAtHome("phonebook", {"import", "-"}, twoPeople()), 0);
+        QCOMPARE(m_out, QString("read 2, added 2, skipped 0\n"));
+        runAtHome("phonebook", {"list"});
+        QCOMPARE(m_out, listed);
+        const QString file = m_dir->filePath("out.vcf");
+        QCOMPARE(runAtHome("phonebook", {"export", file}), 0);
+        QCOMPARE(m_out, QString("written 2\n"));
+        QCOMPARE(runAtHome("phonebook", {"export", m_dir->filePath("no/such/folder.vcf")}), 1);
+        // The same in another home.
+        m_home.reset(new PhoneHome(m_dir->filePath("other")));
+        QCOMPARE(runAtHome("phonebook", {"import", file}), 0);
+        runAtHome("phonebook", {"list"});
+        QCOMPARE(m_out, listed);
+    }
+
+    void importBroken()
+    {
+        const QString path
+            = write("a.vcf", "BEGIN:VCARD\r\nFN:x\r\n" + person("", "NOTE:n") + person("Kim", "TEL:1"));
+        QCOMPARE(runAtHome("phonebook", {"import", path}), 0);
+        QCOMPARE(m_out, QString("read 3, added 1, skipped 2\n  no END:VCARD: 1\n  no name and no number: 1\n"));
+        QCOMPARE(m_error, QString("%1:1: skipped: no END:VCARD\n%1:3: skipped: no name and no number\n").arg(path));
+        QCOMPARE(runAtHome("phonebook", {"import", write("b.vcf", "no cards here")}), 1);
+        QVERIFY(m_error.contains("no contact could be read"));
+        QCOMPARE(ContactManager(m_home->contactDatabase()).getCountOfContact(), 1);
+    }
+
+    void deviceComesAndGoes()
+    {
+        QVERIFY(m_home->create());
+        WpsmContactManager device(m_home->mobileFolder());
+        QCOMPARE(runAtHome("wpsm", {"--name", "Kim's phone, new", "connect", write("a.vcf", twoPeople())}), 0);
+        QCOMPARE(device.getCountOfContact(), 0);
+        device.readWpsmConfigFile();
+        QCOMPARE(device.deviceName(), QString("Kim's phone, new"));
+        QCOMPARE(device.getCountOfContact(), 2);
+        const ContactData kim = device.getAllContacts().first();
+        QCOMPARE(kim.type, ContactData::MobileContact);
+        QCOMPARE(kim.telnum1, QString("0101"));
+        QVERIFY(device.getSpecificContactDetail(kim.id) == kim);
+        for (const char *word : {"ㅇㅁㅈ", "101"})
+            QCOMPARE(device.getContactSearchResults(word).size(), 1);
+        // Another device takes its place; the phone that starts now sees it at once.
+        QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", person("Lee", "TEL:1"))}), 0);
+        device.readWpsmConfigFile();
+        QCOMPARE(device.deviceName(), QString("b"));
+        QCOMPARE(WpsmContactManager(m_home->mobileFolder()).getCountOfContact(), 1);
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(runAtHome("wpsm", {"disconnect"}), 0);
+        device.readWpsmConfigFile();
+        QVERIFY(device.getCountOfContact() == 0 && device.deviceName().isEmpty());
+    }
+
+    void brokenDeviceChangesNothing()
+    {
+        QCOMPARE(runAtHome("wpsm", {"connect", write("a.vcf", twoPeople())}), 0);
+        WpsmContactManager device(m_home->mobileFolder());
+        const QStringList before = QDir(m_home->mobileFolder()).entryList(QDir::Files);
+        for (const char *content : {"", "BEGIN:VCARD\r\nFN:x\r\n"})
+            QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", content)}), 1);
+        QCOMPARE(QDir(m_home->mobileFolder()).entryList(QDir::Files), before);
+        // The file and the database of two devices.
+        const auto readAgain = [&](const QString &warning) {
+            expectWarning(warning);
+            device.readWpsmConfigFile();
+            QCOMPARE(device.getCountOfContact(), 2);
+            QCOMPARE(device.deviceName(), QString("a"));
+        };
+        QSettings(m_home->mobileFolder() + "/wpsm.ini", QSettings::IniFormat)
+            .setValue("Device/Generation", "another");
+        readAgain("do not belong together");
+        QVERIFY(QFile::resize(m_home->mobileFolder() + "/contacts.db", 100));
+        readAgain("cannot use .*mobile/contacts.db");
+        QVERIFY(QFile::remove(m_home->mobileFolder() + "/contacts.db"));
+        readAgain("cannot use .*mobile/contacts.db");
+    }
 
 private:
     void setUp() override
@@ -67,126 +150,6 @@ private:
     QScopedPointer<PhoneHome> m_home;
     QString m_out, m_error;
 };
-
-void TestContactTools::help()
-{
-    for (const char *program : {"phonebook", "wpsm"}) {
-        QCOMPARE(run(program, {"--help"}), 0);
-        QVERIFY(m_out.contains("--home"));
-        QCOMPARE(run(program, {"nonsense"}), 2);
-        QCOMPARE(runAtHome(program, {"import"}), 2);
-    }
-    QVERIFY(!QDir(m_home->root()).exists());
-    QCOMPARE(runAtHome("phonebook", {"list"}), 1);
-    QCOMPARE(runAtHome("phonebook", {"import", "missing.vcf"}), 1);
-}
-
-void TestContactTools::importListAndExport()
-{
-    const QString listed = "1\tKim\t0101 mobile, 02 fax\tWork, Team\n2\t이민준\t3 etc\t\n";
-    QCOMPARE(runAtHome("phonebook", {"import", "-"}, twoPeople()), 0);
-    QCOMPARE(m_out, QString("read 2, added 2, skipped 0\n"));
-    runAtHome("phonebook", {"list"});
-    QCOMPARE(m_out, listed);
-    const QString file = m_dir->filePath("out.vcf");
-    QCOMPARE(runAtHome("phonebook", {"export", file}), 0);
-    QCOMPARE(m_out, QString("written 2\n"));
-    QCOMPARE(runAtHome("phonebook", {"export", m_dir->filePath("no/such/folder.vcf")}), 1);
-    // The same in another home.
-    m_home.reset(new PhoneHome(m_dir->filePath("other")));
-    QCOMPARE(runAtHome("phonebook", {"import", file}), 0);
-    runAtHome("phonebook", {"list"});
-    QCOMPARE(m_out, listed);
-}
-
-void TestContactTools::importBroken()
-{
-    const QString path = write("a.vcf", "BEGIN:VCARD\r\nFN:x\r\n" + person("", "NOTE:n") + person("Kim", "TEL:1"));
-    QCOMPARE(runAtHome("phonebook", {"import", path}), 0);
-    QCOMPARE(m_out, QString("read 3, added 1, skipped 2\n  no END:VCARD: 1\n  no name and no number: 1\n"));
-    QCOMPARE(m_error, QString("%1:1: skipped: no END:VCARD\n%1:3: skipped: no name and no number\n").arg(path));
-    QCOMPARE(runAtHome("phonebook", {"import", write("b.vcf", "no cards here")}), 1);
-    QVERIFY(m_error.contains("no contact could be read"));
-    QCOMPARE(ContactManager(m_home->contactDatabase()).getCountOfContact(), 1);
-}
-
-void TestContactTools::runningPhoneIsTold()
-{
-    QVERIFY(m_home->create());
-    QLocalServer phone;
-    QVERIFY(phone.listen(m_home->peerSocket()));
-    QStringList heard;
-    connect(&phone, &QLocalServer::newConnection, this, [&] {
-        QLocalSocket *socket = phone.nextPendingConnection();
-        connect(socket, &QLocalSocket::readChannelFinished, this, [socket, &heard] {
-            const QByteArray frame = socket->readAll();
-            Message message;
-            if (message_Parse(frame.constData() + 4, frame.size() - 4, &message))
-                heard.append(message.address + ' ' + message.signature + ' '
-                             + message.arguments.value(0).toByteArray());
-        });
-    });
-    const QString file = write("a.vcf", twoPeople());
-    QCOMPARE(runAtHome("phonebook", {"import", file}), 0);
-    QCOMPARE(runAtHome("wpsm", {"connect", file}), 0);
-    QCOMPARE(runAtHome("wpsm", {"disconnect"}), 0);
-    QTRY_COMPARE(heard,
-                 QStringList({"contact/PHONEBOOK api2ui_noti_contact_changed() ",
-                              "contact/WPSM wpsm2ui_noti_device_connected(int) 2",
-                              "contact/WPSM wpsm2ui_noti_device_disconnected(int) 2"}));
-}
-
-void TestContactTools::deviceComesAndGoes()
-{
-    QVERIFY(m_home->create());
-    WpsmContactManager device(m_home->mobileFolder());
-    QCOMPARE(runAtHome("wpsm", {"--name", "Kim's phone, new", "connect", write("a.vcf", twoPeople())}), 0);
-    QCOMPARE(device.getCountOfContact(), 0);
-    device.readWpsmConfigFile();
-    QCOMPARE(device.deviceName(), QString("Kim's phone, new"));
-    QCOMPARE(device.getCountOfContact(), 2);
-    const ContactData kim = device.getAllContacts().first();
-    QCOMPARE(kim.type, ContactData::MobileContact);
-    QCOMPARE(kim.telnum1, QString("0101"));
-    QVERIFY(device.getSpecificContactDetail(kim.id) == kim);
-    QCOMPARE(device.getSpecificContactDetail(99).id, 0);
-    for (const char *word : {"ㅇㅁㅈ", "101"})
-        QCOMPARE(device.getContactSearchResults(word).size(), 1);
-    // Another device takes its place; the phone that starts now sees it at once.
-    QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", person("Lee", "TEL:1"))}), 0);
-    device.readWpsmConfigFile();
-    QCOMPARE(device.deviceName(), QString("b"));
-    QCOMPARE(device.getContactSearchResults("kim").size(), 0);
-    QCOMPARE(WpsmContactManager(m_home->mobileFolder()).getCountOfContact(), 1);
-    for (int i = 0; i < 2; ++i)
-        QCOMPARE(runAtHome("wpsm", {"disconnect"}), 0);
-    device.readWpsmConfigFile();
-    QCOMPARE(device.getCountOfContact(), 0);
-    QVERIFY(device.deviceName().isEmpty());
-}
-
-void TestContactTools::brokenDeviceChangesNothing()
-{
-    QCOMPARE(runAtHome("wpsm", {"connect", write("a.vcf", twoPeople())}), 0);
-    WpsmContactManager device(m_home->mobileFolder());
-    const QStringList before = QDir(m_home->mobileFolder()).entryList(QDir::Files);
-    for (const char *content : {"", "BEGIN:VCARD\r\nFN:x\r\n"})
-        QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", content)}), 1);
-    QCOMPARE(QDir(m_home->mobileFolder()).entryList(QDir::Files), before);
-    // The file and the database of two devices.
-    const auto readAgain = [&](const QString &warning) {
-        expectWarning(warning);
-        device.readWpsmConfigFile();
-        QCOMPARE(device.getCountOfContact(), 2);
-        QCOMPARE(device.deviceName(), QString("a"));
-    };
-    QSettings(m_home->mobileFolder() + "/wpsm.ini", QSettings::IniFormat).setValue("Device/Generation", "another");
-    readAgain("do not belong together");
-    QVERIFY(QFile::resize(m_home->mobileFolder() + "/contacts.db", 100));
-    readAgain("cannot use .*mobile/contacts.db");
-    QVERIFY(QFile::remove(m_home->mobileFolder() + "/contacts.db"));
-    readAgain("cannot use .*mobile/contacts.db");
-}
 
 QTEST_GUILESS_MAIN(TestContactTools)
 #include "tst_contacttools.moc"

@@ -8,18 +8,189 @@
 #include <QTemporaryDir>
 #include <QTextCodec>
 
+static QByteArray eucKr(const char *text)
+{
+    return QTextCodec::codecForName("EUC-KR")->fromUnicode(QString::fromUtf8(text));
+}
+
+static QByteArray quoted(const QByteArray &bytes)
+{
+    QByteArray text;
+    for (const char byte : bytes)
+        text += '=' + QByteArray(1, byte).toHex().toUpper();
+    return text;
+}
+
 /// vCards as phones and computers write them, and the way out and back in.
 class TestVCards : public TestCase
 {
     Q_OBJECT
 
 private slots:
-    void cards();
-    void kinds();
-    void brokenCards();
-    void outAndBack();
-    void photos();
-    void tooMuch();
+    void cards_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("memo");
+        QTest::addColumn<QStringList>("groups");
+        const auto row
+            = [](const char *title, const QByteArray &text, const QString &name, const QString &memo = "",
+                 const QStringList &groups = {}) { QTest::newRow(title) << text << name << memo << groups; };
+        const QByteArray kim = "김철수", korean = eucKr("김철수");
+        row("2.1 quoted UTF-8, folded in a letter",
+            card("N;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:" + quoted("김") + ";=\r\n" + quoted("철수")
+                     + ";;;\r\nTEL:1",
+                 "2.1"),
+            kim);
+        row("2.1 quoted EUC-KR",
+            card("FN;CHARSET=EUC-KR;ENCODING=QUOTED-PRINTABLE:" + quoted(korean) + "\r\nTEL:1", "2.1"), kim);
+        row("2.1 raw EUC-KR", card("FN;CHARSET=EUC-KR:" + korean + "\r\nTEL:1", "2.1"), kim);
+        row("2.1 EUC-KR unannounced", card("FN:" + korean + "\r\nTEL:1", "2.1"), kim);
+        row("2.1 note", card("FN:A\r\nNOTE;ENCODING=QUOTED-PRINTABLE:one=0D=0Atwo\r\nTEL:1", "2.1"), "A",
+            "one\ntwo");
+        row("3.0 escapes", card("FN:Doe\\, John\r\nNOTE:a\\nb\\, c\\; d\r\nCATEGORIES:Work,Fam\\, ily\r\nTEL:1"),
+            "Doe, John", "a\nb, c; d", {"Work", "Fam, ily"});
+        row("3.0 folded line", card("FN:John\r\n  Doe\r\nTEL:1"), "John Doe");
+        row("4.0", card("FN:" + kim + "\r\nTEL;VALUE=uri;TYPE=cell:tel:1", "4.0"), kim);
+        row("line feeds only, byte order mark",
+            "\xef\xbb\xbf" + card("FN:" + kim + "\r\nTEL:1").replace("\r\n", "\n"), kim);
+        row("small letters", "begin:vcard\r\nversion:3.0\r\nfn:A\r\ntel:1\r\nend:vcard\r\n", "A");
+        row("parts of a western name", card("N:Doe;John;;Dr.;\r\nTEL:1"), "Dr. John Doe");
+        row("organization alone", card("N:;;;;\r\nORG:Acme\r\nTEL:1"), "Acme");
+        row("number alone", card("TEL:1"), "");
+        row("a card within", card("FN:Boss\r\nAGENT:\r\nBEGIN:VCARD\r\nFN:Aide\r\nEND:VCARD\r\nTEL:1", "2.1"),
+            "Boss");
+    }
+
+    void cards()
+    {
+        QFETCH(QByteArray, text);
+        const VCardFile file = read(text);
+        QVERIFY(file.contacts.size() == 1 && file.skipped.isEmpty());
+        const ContactImport entry = file.contacts.first();
+        QTEST(entry.contact.name, "name");
+        QTEST(entry.contact.memo, "memo");
+        QTEST(entry.groups, "groups");
+        QCOMPARE(entry.contact.telnum1, QString("1"));
+    }
+
+    void kinds()
+    {
+        const QList<std::tuple<QByteArray, QString, ContactData::Telnum_Type>> lines = {
+            {"TEL;TYPE=WORK:+82 (2) 555-0101", "+8225550101", ContactData::Company},
+            {"TEL;TYPE=CELL:*55#", "*55#", ContactData::Mobile},
+            {"TEL;TYPE=WORK,CELL:1", "1", ContactData::Mobile},
+            {"TEL;TYPE=HOME,VOICE,PREF:1", "1", ContactData::Home},
+            {"TEL;HOME;FAX:1", "1", ContactData::Fax},
+            {"TEL;TYPE=X-OWN:1", "1", ContactData::Etc},
+            {"item1.TEL;type=CELL;type=pref:1", "1", ContactData::Mobile},
+            {"TEL;VALUE=uri;TYPE=\"voice,work\":tel:+1-555;ext=9", "+1555", ContactData::Company},
+        };
+        for (const auto &[line, number, kind] : lines) {
+            const ContactData contact = read(card("FN:A\r\n" + line)).contacts.value(0).contact;
+            QVERIFY2(contact.telnum1 == number && contact.telnum1_type == kind, line);
+        }
+    }
+
+    void brokenCards()
+    {
+        // The lines 1 to 5, 6, 7 to 9, 10 to 14, 15 to 18, 19 and 20, 21 to 24, and from 25.
+        const QByteArray text = card("FN:First\r\nTEL:1") + "stray\r\n" + "BEGIN:VCARD\r\nFN:No end\r\nTEL:2\r\n"
+            + card("FN:Second\r\nTEL:3") + card("NOTE:nobody") + "FN:No begin\r\nEND:VCARD\r\n" + card("TEL:abc")
+            + "BEGIN:VCARD\r\nFN:Cut off";
+        const VCardFile file = read(text);
+        QStringList names;
+        for (const ContactImport &entry : file.contacts)
+            names.append(entry.contact.name);
+        QCOMPARE(names, QStringList({"First", "Second"}));
+        QStringList skipped;
+        for (const VCardFile::Skipped &card : file.skipped)
+            skipped.append(QStringLiteral("%1 %2").arg(card.line).arg(card.reason));
+        QCOMPARE(skipped,
+                 QStringList({"7 no END:VCARD", "15 no name and no number", "20 END:VCARD without BEGIN:VCARD",
+                              "21 no name and no number", "25 no END:VCARD"}));
+        QCOMPARE(file.cardsRead(), 7);
+        QCOMPARE(read(QByteArray(100000, '\xff')).cardsRead(), 0);
+        QCOMPARE(read("").cardsRead(), 0);
+    }
+
+    void outAndBack()
+    {
+        QList<ContactImport> people;
+        const auto add = [&people](const std::function<void(ContactData &)> &fill, const QStringList &groups = {}) {
+            people.append({ContactData(), groups});
+            fill(people.last().contact);
+        };
+        add([](ContactData &c) {
+            for (int slot = 0; slot < ContactData::NumberCount; ++slot)
+                c.setNumber(slot, QString("+%1*#").arg(slot), static_cast<ContactData::Telnum_Type>(slot % 5));
+        });
+        add([](ContactData &c) { // gaps
+            c.setNumber(1, "1", ContactData::Fax);
+            c.setNumber(7, "1", ContactData::Etc);
+            c.setEmails({"", "a@b", "a@b"});
+        });
+        add([](ContactData &c) {
+            c.name = " Doe, \"John\"; \\n \\\\ 김😀  x ";
+            c.memo = "one\ntwo\\nthree\\;four\r\nfive;,:=\t\\" + QString("김철수, ").repeated(100);
+            c.bell = "/ring tones/a,b;c%20\\d.wav";
+            c.buddyId = "kim@example.com;x";
+            c.extra = "e\nx\ntra";
+            c.picture = ":/ui/images/album/a b.png";
+        });
+        add([](ContactData &c) { c.name = "Kim"; }, {"Z", "A, b", "C;d", "E\\", " f "});
+        add([](ContactData &) {}); // nothing at all
+        for (const ContactImport &one : qAsConst(people)) {
+            const VCardFile file = read(VCardBridge::write(one, {}) + card("FN:Next\r\nTEL:1"));
+            QCOMPARE(file.contacts.size(), 2);
+            QVERIFY2(file.contacts.first().contact == one.contact, VCardBridge::write(one, {}));
+            QCOMPARE(file.contacts.first().groups, one.groups);
+        }
+    }
+
+    void photos()
+    {
+        QByteArray red;
+        QBuffer bytes(&red);
+        QImage image(4, 4, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(bytes.open(QIODevice::WriteOnly) && image.save(&bytes, "PNG"));
+        const QByteArray base64 = red.toBase64();
+        const VCardFile file = read(
+            card("FN:A\r\nPHOTO;ENCODING=BASE64;PNG:" + base64.left(20) + "\r\n " + base64.mid(20) + "\r\n", "2.1")
+            + card("FN:B\r\nPHOTO;ENCODING=b;TYPE=PNG:" + base64)
+            + card("FN:C\r\nPHOTO:data:image/png;base64," + base64, "4.0")
+            + card("FN:D\r\nPHOTO;ENCODING=b;TYPE=PNG:" + QByteArray("no picture").toBase64())
+            + card("FN:E\r\nPHOTO;VALUE=uri:http://example.com/x.png"));
+        QCOMPARE(file.contacts.size(), 5);
+        const QString text = PhotoStore::pictureText(red);
+        QVERIFY(text.startsWith("photo:") && text.endsWith(".png") && !text.contains('/'));
+        QStringList pictures;
+        for (const ContactImport &entry : file.contacts)
+            pictures.append(entry.contact.picture);
+        QCOMPARE(pictures, QStringList({text, text, text, "", ""}));
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files).size(), 1);
+        QFile stored(text);
+        QVERIFY(stored.open(QIODevice::ReadOnly));
+        QCOMPARE(stored.readAll(), red);
+
+        // Out and into another home, where the photo is not yet.
+        const QByteArray card = VCardBridge::write(file.contacts.first(), red);
+        stored.remove();
+        QCOMPARE(read(card).contacts.first().contact.picture, text);
+        QVERIFY(QFile::exists(text));
+    }
+
+    void tooMuch()
+    {
+        QByteArray lines = "FN:A";
+        for (int i = 0; i < 12; ++i)
+            lines += "\r\nTEL:" + QByteArray::number(100 + i) + "\r\nEMAIL:a@" + QByteArray::number(i);
+        const VCardFile file = read(card(lines));
+        QCOMPARE(file.contacts.first().contact.telnum10, QString("109"));
+        QCOMPARE(file.contacts.first().contact.email3, QString("a@2"));
+        QCOMPARE(file.leftOut, 2 + 9);
+    }
 
 private:
     void setUp() override
@@ -39,223 +210,8 @@ private:
     {
         return "BEGIN:VCARD\r\nVERSION:" + version + "\r\n" + lines + "\r\nEND:VCARD\r\n";
     }
-    static QByteArray picture(Qt::GlobalColor color)
-    {
-        QImage image(4, 4, QImage::Format_RGB32);
-        image.fill(color);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        return bytes;
-    }
-
     QScopedPointer<QTemporaryDir> m_dir;
 };
-
-static QByteArray eucKr(const char *text)
-{
-    return QTextCodec::codecForName("EUC-KR")->fromUnicode(QString::fromUtf8(text));
-}
-
-static QByteArray quoted(const QByteArray &bytes)
-{
-    QByteArray text;
-    for (const char byte : bytes)
-        text += '=' + QByteArray(1, byte).toHex().toUpper();
-    return text;
-}
-
-void TestVCards::cards()
-{
-    const QByteArray kim = "김철수";
-    const struct
-    {
-        const char *title;
-        QByteArray text;
-        QString name, memo;
-        QStringList groups;
-    } cards[] = {
-        {"2.1 quoted UTF-8, folded in a letter",
-         card("N;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:" + quoted("김") + ";=\r\n" + quoted("철수")
-                  + ";;;\r\nTEL:1",
-              "2.1"),
-         kim,
-         "",
-         {}},
-        {"2.1 quoted EUC-KR",
-         card("FN;CHARSET=EUC-KR;ENCODING=QUOTED-PRINTABLE:" + quoted(eucKr("김철수")) + "\r\nTEL:1", "2.1"),
-         kim,
-         "",
-         {}},
-        {"2.1 raw EUC-KR", card("FN;CHARSET=EUC-KR:" + eucKr("김철수") + "\r\nTEL:1", "2.1"), kim, "", {}},
-        {"2.1 EUC-KR unannounced", card("FN:" + eucKr("김철수") + "\r\nTEL:1", "2.1"), kim, "", {}},
-        {"2.1 note",
-         card("FN:A\r\nNOTE;ENCODING=QUOTED-PRINTABLE:one=0D=0Atwo\r\nTEL:1", "2.1"),
-         "A",
-         "one\ntwo",
-         {}},
-        {"3.0 escapes",
-         card("FN:Doe\\, John\r\nNOTE:a\\nb\\, c\\; d\r\nCATEGORIES:Work,Fam\\, ily\r\nTEL:1"),
-         "Doe, John",
-         "a\nb, c; d",
-         {"Work", "Fam, ily"}},
-        {"3.0 folded line", card("FN:John\r\n  Doe\r\nTEL:1"), "John Doe", "", {}},
-        {"4.0", card("FN:" + kim + "\r\nTEL;VALUE=uri;TYPE=cell:tel:1", "4.0"), kim, "", {}},
-        {"line feeds only, byte order mark",
-         "\xef\xbb\xbf" + card("FN:" + kim + "\r\nTEL:1").replace("\r\n", "\n"),
-         kim,
-         "",
-         {}},
-        {"small letters", "begin:vcard\r\nversion:3.0\r\nfn:A\r\ntel:1\r\nend:vcard\r\n", "A", "", {}},
-        {"parts of a western name", card("N:Doe;John;;Dr.;\r\nTEL:1"), "Dr. John Doe", "", {}},
-        {"organization alone", card("N:;;;;\r\nORG:Acme\r\nTEL:1"), "Acme", "", {}},
-        {"number alone", card("TEL:1"), "", "", {}},
-        {"a card within",
-         card("FN:Boss\r\nAGENT:\r\nBEGIN:VCARD\r\nFN:Aide\r\nEND:VCARD\r\nTEL:1", "2.1"),
-         "Boss",
-         "",
-         {}},
-    };
-    for (const auto &one : cards) {
-        const VCardFile file = read(one.text);
-        QVERIFY2(file.contacts.size() == 1 && file.skipped.isEmpty(), one.title);
-        const ContactImport entry = file.contacts.first();
-        QVERIFY2(entry.contact.name == one.name, one.title);
-        QVERIFY2(entry.contact.memo == one.memo, one.title);
-        QVERIFY2(entry.groups == one.groups && entry.contact.telnum1 == "1", one.title);
-    }
-}
-
-void TestVCards::kinds()
-{
-    const struct
-    {
-        const char *line;
-        QString number;
-        ContactData::Telnum_Type kind;
-    } lines[] = {
-        {"TEL;TYPE=WORK:+82 (2) 555-0101", "+8225550101", ContactData::Company},
-        {"TEL;TYPE=CELL:*55#", "*55#", ContactData::Mobile},
-        {"TEL;TYPE=WORK,CELL:1", "1", ContactData::Mobile},
-        {"TEL;TYPE=HOME,VOICE,PREF:1", "1", ContactData::Home},
-        {"TEL;HOME;FAX:1", "1", ContactData::Fax},
-        {"TEL;TYPE=VOICE:1", "1", ContactData::Etc},
-        {"TEL;TYPE=X-OWN:1", "1", ContactData::Etc},
-        {"item1.TEL;type=CELL;type=pref:1", "1", ContactData::Mobile},
-        {"TEL;VALUE=uri;TYPE=\"voice,work\":tel:+1-555;ext=9", "+1555", ContactData::Company},
-    };
-    for (const auto &one : lines) {
-        const ContactData contact = read(card(QByteArray("FN:A\r\n") + one.line)).contacts.value(0).contact;
-        QVERIFY2(contact.telnum1 == one.number, one.line);
-        QVERIFY2(contact.telnum1_type == one.kind, one.line);
-    }
-}
-
-void TestVCards::brokenCards()
-{
-    const QByteArray text = card("FN:First\r\nTEL:1") // lines 1 to 5
-        + "stray\r\n" // 6
-        + "BEGIN:VCARD\r\nFN:No end\r\nTEL:2\r\n" // 7 to 9
-        + card("FN:Second\r\nTEL:3") // 10 to 14
-        + card("NOTE:nobody") // 15 to 18
-        + "FN:No begin\r\nEND:VCARD\r\n" // 19 to 20
-        + card("TEL:abc") // 21 to 24
-        + card("FN:Third") // 25 to 28
-        + "BEGIN:VCARD\r\nFN:Cut off"; // 29
-    const VCardFile file = read(text);
-    QStringList names;
-    for (const ContactImport &entry : file.contacts)
-        names.append(entry.contact.name);
-    QCOMPARE(names, QStringList({"First", "Second", "Third"}));
-    QStringList skipped;
-    for (const VCardFile::Skipped &card : file.skipped)
-        skipped.append(QStringLiteral("%1 %2").arg(card.line).arg(card.reason));
-    QCOMPARE(skipped,
-             QStringList({"7 no END:VCARD", "15 no name and no number", "20 END:VCARD without BEGIN:VCARD",
-                          "21 no name and no number", "29 no END:VCARD"}));
-    QCOMPARE(file.cardsRead(), 8);
-    QCOMPARE(file.skippedByReason().value("no END:VCARD"), 2);
-    QCOMPARE(read(QByteArray(100000, '\xff')).cardsRead(), 0);
-    QCOMPARE(read("").cardsRead(), 0);
-}
-
-void TestVCards::outAndBack()
-{
-    QList<ContactImport> people;
-    const auto add = [&people](const std::function<void(ContactData &)> &fill, const QStringList &groups = {}) {
-        people.append({ContactData(), groups});
-        fill(people.last().contact);
-    };
-    add([](ContactData &c) {
-        for (int slot = 0; slot < ContactData::NumberCount; ++slot)
-            c.setNumber(slot, QString("+%1*#").arg(slot), static_cast<ContactData::Telnum_Type>(slot % 5));
-    });
-    add([](ContactData &c) { // gaps
-        c.setNumber(1, "1", ContactData::Fax);
-        c.setNumber(7, "1", ContactData::Etc);
-        c.setEmails({"", "a@b", "a@b"});
-    });
-    add([](ContactData &c) {
-        c.name = " Doe, \"John\"; \\n \\\\ 김😀  x ";
-        c.memo = "one\ntwo\\nthree\\;four\r\nfive;,:=\t\\";
-        c.bell = "/ring tones/a,b;c%20\\d.wav";
-        c.buddyId = "kim@example.com;x";
-        c.extra = "e\nx\ntra";
-        c.picture = ":/ui/images/album/a b.png";
-    });
-    add([](ContactData &c) { c.memo = QString("김철수, ").repeated(100); });
-    add([](ContactData &c) { c.name = "Kim"; }, {"Z", "A, b", "C;d", "E\\", " f "});
-    add([](ContactData &) {}); // nothing at all
-    for (const ContactImport &one : qAsConst(people)) {
-        const VCardFile file = read(VCardBridge::write(one, {}) + card("FN:Next\r\nTEL:1"));
-        QCOMPARE(file.contacts.size(), 2);
-        QCOMPARE(file.contacts.first().contact.name, one.contact.name);
-        QCOMPARE(file.contacts.first().contact.memo, one.contact.memo);
-        QVERIFY(file.contacts.first().contact == one.contact);
-        QCOMPARE(file.contacts.first().groups, one.groups);
-    }
-}
-
-void TestVCards::photos()
-{
-    const QByteArray red = picture(Qt::red);
-    const QByteArray base64 = red.toBase64();
-    const VCardFile file = read(
-        card("FN:A\r\nPHOTO;ENCODING=BASE64;PNG:" + base64.left(20) + "\r\n " + base64.mid(20) + "\r\n", "2.1")
-        + card("FN:B\r\nPHOTO;ENCODING=b;TYPE=PNG:" + base64)
-        + card("FN:C\r\nPHOTO:data:image/png;base64," + base64, "4.0")
-        + card("FN:D\r\nPHOTO;ENCODING=b;TYPE=PNG:" + QByteArray("no picture").toBase64())
-        + card("FN:E\r\nPHOTO;VALUE=uri:http://example.com/x.png"));
-    QCOMPARE(file.contacts.size(), 5);
-    const QString text = PhotoStore::pictureText(red);
-    QVERIFY(text.startsWith("photo:") && text.endsWith(".png") && !text.contains('/'));
-    QStringList pictures;
-    for (const ContactImport &entry : file.contacts)
-        pictures.append(entry.contact.picture);
-    QCOMPARE(pictures, QStringList({text, text, text, "", ""}));
-    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files).size(), 1);
-    QFile stored(text);
-    QVERIFY(stored.open(QIODevice::ReadOnly));
-    QCOMPARE(stored.readAll(), red);
-
-    // Out and into another home, where the photo is not yet.
-    const QByteArray card = VCardBridge::write(file.contacts.first(), red);
-    stored.remove();
-    QCOMPARE(read(card).contacts.first().contact.picture, text);
-    QVERIFY(QFile::exists(text));
-}
-
-void TestVCards::tooMuch()
-{
-    QByteArray lines = "FN:A";
-    for (int i = 0; i < 12; ++i)
-        lines += "\r\nTEL:" + QByteArray::number(100 + i) + "\r\nEMAIL:a@" + QByteArray::number(i);
-    const VCardFile file = read(card(lines));
-    QCOMPARE(file.contacts.first().contact.telnum10, QString("109"));
-    QCOMPARE(file.contacts.first().contact.email3, QString("a@2"));
-    QCOMPARE(file.leftOut, 2 + 9);
-}
 
 QTEST_GUILESS_MAIN(TestVCards)
 #include "tst_vcards.moc"
