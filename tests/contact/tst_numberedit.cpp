@@ -166,6 +166,26 @@ private slots:
         QCOMPARE(softKeys().at(2), QString("Erase"));
     }
 
+    /// The erase key acts a millisecond later, and a command may close the form before.
+    void closedBehindTheEraseKey()
+    {
+        openForm(-1);
+        list()->setSelectedIdx(2);
+        settle();
+        bool boxOpens = false;
+        PhoneScript script;
+        script.call([this] {
+            click(Qt::Key_Backspace);
+            form()->close();
+        });
+        script.until("the millisecond to pass", [turns = 0]() mutable { return ++turns > 5; }).call([&] {
+            QWidget *box = QApplication::activeModalWidget();
+            boxOpens = box && box->close();
+        });
+        QCOMPARE(script.run(), QString());
+        QVERIFY(!boxOpens);
+    }
+
     void aRowMayGoWhileItsPopupStands()
     {
         openForm(-1, "123");

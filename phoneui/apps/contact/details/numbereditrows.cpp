@@ -255,7 +255,8 @@ bool NumberEdit::isEmptyField(int idx) const
 void NumberEdit::removeItem()
 {
     const int idx = m_listView->selectedIdx();
-    if (!isRemovable(idx))
+    // In the millisecond since the erase key a command may have closed the form.
+    if (!isVisible() || !isRemovable(idx))
         return;
     const ListViewItem *row = m_listView->item(idx);
     const ScreenWatch watch(this);
