@@ -133,6 +133,7 @@ void MonkeyRun::step()
     if (m_faultyFor > 0 && --m_faultyFor == 0)
         FaultyFiles::disarm();
     apply(event);
+    m_sinceTurn.restart(); // what other programs did is not the phone's to answer for
 }
 
 void MonkeyRun::begin(Task task, int milliseconds)
