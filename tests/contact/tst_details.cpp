@@ -38,6 +38,7 @@ private slots:
         QCOMPARE(fields(),
                  QStringList({"Name=Kim", "Group=Chess,Team", "Mobile Number=1", "Fax Number=2",
                               "Email=kim@example.org", "Bell=Morning", "Memo=met in spring"}));
+        TestScreen::shot("details");
         for (const bool isNumber : {false, false, true, true, false, false, false, false}) {
             QCOMPARE(softKeys(),
                      QStringList({isNumber ? "Call" : "", isNumber ? "Message" : "", "Delete", "Edit"}));
@@ -50,6 +51,7 @@ private slots:
         const ContactData mobile = m_phone->core.wpsmContactManager()->getAllContacts().value(0);
         openDetails(mobile.id, mobile.type);
         QCOMPARE(fields(), QStringList({"Name=Mobile", "Mobile Number=0701234567"}));
+        TestScreen::shot("details-mobile");
         click(Qt::Key_Down);
         QCOMPARE(softKeys(), QStringList({"Call", "Message", "", ""}));
     }
@@ -69,6 +71,7 @@ private slots:
             details->startTimer(); // the wait is over
             details->flowString();
             QCOMPARE(list()->item(3)->text(), flows ? text.mid(1) : text);
+            TestScreen::shot(QString("details-%1-wide").arg(width));
             QCOMPARE(details->getFocusedNumber(3), text);
             for (int i = 1; i < text.size() && flows; ++i)
                 details->flowString();

@@ -1,0 +1,117 @@
+// The contact store under a writer that is killed at any moment: what it acknowledged is there, nothing is half
+// there.
+
+#include "contactmanager.h"
+#include "testcase.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <cstdio>
+
+static ContactData person(const QString &name)
+{
+    ContactData contact;
+    contact.name = name;
+    contact.setNumbers({"1", "2"}, {});
+    contact.memo = QString(200, QChar('m'));
+    return contact;
+}
+
+// The same row of operations for the writer and for who looks at what is left of it.
+enum Operation { Save, DeleteOldest, DeleteAll };
+
+static Operation operationAt(int step)
+{
+    return step % 12 == 11 ? DeleteAll : step % 3 == 2 ? DeleteOldest : Save;
+}
+
+/// In the order of age and of names alike.
+static QString nameAt(int step)
+{
+    return QStringLiteral("Person %1").arg(step, 6, 10, QChar('0'));
+}
+
+/// Runs the operations one after the other and tells each that the store has acknowledged.
+static int write(const QString &database)
+{
+    ContactManager store(database);
+    for (int step = 0; step < 10000; ++step) {
+        int done = 0;
+        switch (operationAt(step)) {
+        case Save: done = store.saveContact(person(nameAt(step)), false); break;
+        case DeleteOldest:
+            done = store.deleteContact(store.getAllContacts().value(0).id, ContactData::LocalContact);
+            break;
+        case DeleteAll: done = store.deleteAllContacts(); break;
+        }
+        if (!done)
+            return 1;
+        std::printf("%d\n", step);
+        std::fflush(stdout);
+    }
+    return 0;
+}
+
+static QStringList namesAfter(int steps)
+{
+    QStringList names;
+    for (int step = 0; step < steps; ++step) {
+        switch (operationAt(step)) {
+        case Save: names.append(nameAt(step)); break;
+        case DeleteOldest: names.removeFirst(); break;
+        case DeleteAll: names.clear(); break;
+        }
+    }
+    return names;
+}
+
+class KilledWriterTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aHundredTimes()
+    {
+        QRandomGenerator random(20);
+        for (int round = 0; round < 100; ++round) {
+            const QTemporaryDir folder;
+            const QString path = folder.filePath("contacts.db");
+            QProcess writer;
+            writer.start(QCoreApplication::applicationFilePath(), {"--write", path});
+            QVERIFY(writer.waitForReadyRead(10000));
+            QThread::usleep(random.bounded(12000U));
+            writer.kill();
+            QVERIFY(writer.waitForFinished());
+            const QByteArray acknowledged = writer.readAllStandardOutput();
+            const int steps = acknowledged.left(acknowledged.lastIndexOf('\n')).split('\n').last().toInt() + 1;
+
+            const ContactManager store(path);
+            QVERIFY(store.isOpen());
+            QStringList names;
+            const QList<ContactData> contacts = store.getAllContacts();
+            for (const ContactData &contact : contacts) {
+                names.append(contact.name);
+                QVERIFY(!contact.telnum1.isEmpty() && !contact.telnum2.isEmpty());
+                QCOMPARE(store.getGroupIdsOfMember(contact.id), QList<int>{1});
+            }
+            QVERIFY2(names == namesAfter(steps) || names == namesAfter(steps + 1),
+                     qPrintable(QString("%1 operations: %2").arg(steps).arg(names.join(", "))));
+        }
+    }
+};
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--write")
+        return write(arguments.value(2));
+    KilledWriterTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_killedwriter.moc"
