@@ -32,6 +32,19 @@ class MessageBoxTest : public ScreenTest
     Q_OBJECT
 
 private slots:
+    void wideTextsStepDownOrWrap()
+    {
+        const QString wide("Group members will move to Unassigned group");
+        Box box(m_screen.get());
+        const QLabel *message = box.findChildren<QLabel *>().at(2);
+        box.setMessage(wide);
+        QVERIFY(message->wordWrap() && message->font().pointSize() == 20);
+        box.setSubMessage(wide);
+        QVERIFY(!message->wordWrap() && message->font().pointSize() == 18);
+        box.setMessage("Delete the group?");
+        QCOMPARE(message->font().pointSize(), 20);
+    }
+
     void keysEndIt()
     {
         const struct
@@ -196,7 +209,8 @@ private slots:
             box.additionalButton()->setVisible(!look.additional.isEmpty());
             if (look.alarm)
                 box.showAlarmMessage();
-            const QString shownMessage = box.findChildren<QLabel *>().at(2)->text(); // an alarm is cut to one line
+            // An alarm is cut to one line.
+            const QString shownMessage = box.findChildren<QLabel *>().at(2)->text();
             QCOMPARE(shownMessage.endsWith(QChar(0x2026)), look.name == "box-long-alarm");
             QVERIFY(showAndActivate(&box));
             if (look.held)
