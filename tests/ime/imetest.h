@@ -34,26 +34,17 @@ protected:
     }
 };
 
-/// A phone with a window of two line edits and something else that takes the focus. A tapped letter waits for the
-/// next key for as long as a test may take.
+/// A phone with a window of two line edits and something else that takes the focus.
 struct ImePhone
 {
-    ImePhone()
-    {
-        window.setGeometry(0, 26, 384, 134);
-        first.setGeometry(5, 5, 370, 28);
-        second.setGeometry(5, 40, 370, 28);
-        other.setGeometry(5, 75, 370, 28);
-        other.setFocusPolicy(Qt::StrongFocus);
-    }
-
     TestPhone phone;
     QWidget window;
     Field first{&window}, second{&window};
     KeyCounter other{&window};
 };
 
-/// A test of the keypad, which begins in the first field with small letters.
+/// A test of the keypad, which begins in the first field with small letters. A tapped letter waits for the next key
+/// for as long as a test may take.
 class ImeTest : public TestCase
 {
 protected:
@@ -61,6 +52,9 @@ protected:
     {
         m_phone.reset(new ImePhone);
         setTapTime(600000);
+        m_phone->window.setGeometry(0, 26, 384, 134);
+        m_phone->second.move(0, 40);
+        m_phone->other.setFocusPolicy(Qt::StrongFocus);
         QVERIFY(PhoneKeys::showAndActivate(&m_phone->window));
         edit().setFocus();
         setMode(IMESmall);

@@ -5,17 +5,16 @@
 #include "testmain.h"
 
 #include <QFile>
-#include <QKeyEvent>
 #include <QTemporaryDir>
 
 /// Keeps the keys that reach it, by their names on the phone or as the text that they type.
 class KeyCatcher : public QWidget
 {
 public:
-    QStringList take()
+    QString take()
     {
         QCoreApplication::processEvents();
-        return std::exchange(m_keys, {});
+        return std::exchange(m_keys, {}).join(' ');
     }
 
 protected:
@@ -37,10 +36,63 @@ class KeyMapTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void mapsPcKeys();
-    void unknownLinesAreLeftOut();
-    void phoneKeysAreNeverMapped();
-    void namesAndCodesAgree();
+    void mapsPcKeys()
+    {
+        const struct
+        {
+            Qt::Key key;
+            Qt::KeyboardModifiers modifiers;
+            QString text, phoneKey;
+        } keys[] = {
+            {Qt::Key_F1, Qt::NoModifier, "", "Soft1"},
+            {Qt::Key_F1, Qt::ShiftModifier, "", "F1"},
+            {Qt::Key_5, Qt::AltModifier, "5", "5"},
+            {Qt::Key_Asterisk, Qt::AltModifier | Qt::ShiftModifier, "*", "Star"},
+            {Qt::Key_NumberSign, Qt::AltModifier, "#", "Hash"},
+            {Qt::Key_Enter, Qt::KeypadModifier, "\r", "Ok"},
+            {Qt::Key_Escape, Qt::NoModifier, "\x1b", "Esc"},
+            {Qt::Key_A, Qt::NoModifier, "a", "a"}, // letters and digits are typed
+            {Qt::Key_5, Qt::NoModifier, "5", "5"},
+        };
+        const KeyMap map(path());
+        KeyCatcher window;
+        QVERIFY(PhoneKeys::showAndActivate(&window));
+        for (const auto &key : keys) {
+            pc(true, key.key, key.modifiers, key.text);
+            pc(false, key.key, key.modifiers, key.text);
+            QCOMPARE(window.take(), '+' + key.phoneKey + " -" + key.phoneKey);
+        }
+        // A release belongs to its press, whatever is held by then.
+        pc(true, Qt::Key_F2, Qt::ShiftModifier);
+        pc(false, Qt::Key_F2);
+        QCOMPARE(window.take(), QString("+F2 -F2"));
+        // Of the keys that the PC repeats only those of the keypad pass.
+        for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Down}) {
+            pc(true, key);
+            pc(true, key, Qt::NoModifier, QString(), true);
+        }
+        QCOMPARE(window.take(), QString("+Soft1 +Down +Down"));
+        // Keys of the phone are never mapped.
+        PhoneKey::post(Qt::Key_F1, true);
+        PhoneKey::postText("x");
+        QVERIFY(QTest::qWaitFor([] { return !PhoneKey::pending(); }));
+        QCOMPARE(window.take(), QString("+F1 +x -x"));
+    }
+
+    void namesAndUnknownLines()
+    {
+        const auto names = KeyMap(path()).names();
+        for (const QString &name : names)
+            QCOMPARE(PhoneKey::name(PhoneKey::code(name)), name);
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[Keys]\nA=Ok\nB=NoSuchKey\nNoSuchKey=Ok\n");
+        file.close();
+        expectWarning("B=NoSuchKey");
+        expectWarning("NoSuchKey=Ok");
+        QCOMPARE(KeyMap(path()).names(), (QMap<QString, QString>{{"A", "Ok"}}));
+        QVERIFY(file.remove());
+    }
 
 private:
     static void pc(bool down, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
@@ -52,79 +104,6 @@ private:
 
     QTemporaryDir m_folder;
 };
-
-void KeyMapTest::mapsPcKeys()
-{
-    const struct
-    {
-        Qt::Key key;
-        Qt::KeyboardModifiers modifiers;
-        QString text, phoneKey;
-    } keys[] = {
-        {Qt::Key_F1, Qt::NoModifier, "", "Soft1"},
-        {Qt::Key_F1, Qt::ShiftModifier, "", "F1"},
-        {Qt::Key_F10, Qt::ShiftModifier, "", "F10"},
-        {Qt::Key_5, Qt::AltModifier, "5", "5"},
-        {Qt::Key_Asterisk, Qt::AltModifier | Qt::ShiftModifier, "*", "Star"},
-        {Qt::Key_NumberSign, Qt::AltModifier, "#", "Hash"},
-        {Qt::Key_Enter, Qt::KeypadModifier, "\r", "Ok"},
-        {Qt::Key_Escape, Qt::NoModifier, "\x1b", "Esc"},
-        {Qt::Key_A, Qt::NoModifier, "a", "a"}, // letters and digits are typed
-        {Qt::Key_5, Qt::NoModifier, "5", "5"},
-    };
-    const KeyMap map(path());
-    KeyCatcher window;
-    QVERIFY(PhoneKeys::showAndActivate(&window));
-    for (const auto &key : keys) {
-        pc(true, key.key, key.modifiers, key.text);
-        pc(false, key.key, key.modifiers, key.text);
-        QCOMPARE(window.take(), QStringList({"+" + key.phoneKey, "-" + key.phoneKey}));
-    }
-    // A release belongs to its press, whatever is held by then.
-    pc(true, Qt::Key_F2, Qt::ShiftModifier);
-    pc(false, Qt::Key_F2);
-    QCOMPARE(window.take(), QStringList({"+F2", "-F2"}));
-    // Of the keys that the PC repeats only those of the keypad pass.
-    for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Down}) {
-        pc(true, key);
-        pc(true, key, Qt::NoModifier, QString(), true);
-    }
-    QCOMPARE(window.take(), QStringList({"+Soft1", "+Down", "+Down"}));
-}
-
-void KeyMapTest::unknownLinesAreLeftOut()
-{
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[Keys]\nA=Ok\nB=NoSuchKey\nNoSuchKey=Ok\n");
-    file.close();
-    expectWarning("B=NoSuchKey");
-    expectWarning("NoSuchKey=Ok");
-    QCOMPARE(KeyMap(path()).names(), (QMap<QString, QString>{{"A", "Ok"}}));
-    QVERIFY(file.remove());
-}
-
-void KeyMapTest::phoneKeysAreNeverMapped()
-{
-    const KeyMap map(path());
-    KeyCatcher window;
-    QVERIFY(PhoneKeys::showAndActivate(&window));
-    PhoneKey::post(Qt::Key_F1, true);
-    PhoneKey::postText("x");
-    QVERIFY(QTest::qWaitFor([] { return !PhoneKey::pending(); }));
-    QCOMPARE(window.take(), QStringList({"+F1", "+x", "-x"}));
-}
-
-void KeyMapTest::namesAndCodesAgree()
-{
-    const KeyMap map(path());
-    const auto names = map.names();
-    QCOMPARE(names.size(), 37);
-    for (const QString &name : names)
-        QCOMPARE(PhoneKey::name(PhoneKey::code(name)), name);
-    QCOMPARE(PhoneKey::code("Hash"), 223);
-    QCOMPARE(PhoneKey::code("hash"), 0);
-}
 
 PHONE_TEST_MAIN(KeyMapTest)
 #include "tst_keymap.moc"

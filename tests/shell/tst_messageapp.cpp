@@ -15,15 +15,136 @@ class MessageAppTest : public NeighbourTest<MessageApp>
     Q_OBJECT
 
 private slots:
-    void writesAndSends();
-    void asksForWhatIsMissing();
-    void takesTheReceiverFromTheContacts();
-    void aMessageDuringTheToastKeepsItsForm();
-    void sendsAgainAndDeletes();
-    void showsWhatWasSent();
-    void keepsTheNewest();
-    void aFileThatIsNoDatabase();
-    void senselessMessages();
+    void writesAndSends()
+    {
+        m_phone->addContact("Anna", {"100", "200"});
+        QVERIFY(start());
+        click(Qt::Key_Context1);
+        QVERIFY(formIsOpen());
+        QCOMPARE(softKeys(form()), QStringList({"Close", "Search", "Erase", "Send"}));
+        QCOMPARE(m_phone->core.getIMEStatus(), IMENumeric);
+        type("()");
+        toText();
+        QCOMPARE(m_phone->core.getIMEStatus(), IMESmall);
+        type("Helloo");
+        click(Qt::Key_Context3);
+        QCOMPARE(text(), QString("Hello"));
+        press(Qt::Key_Context3);
+        QTRY_COMPARE(text(), QString()); // while it is held
+        release(Qt::Key_Context3);
+        sendForm("Enter a number");
+        QCOMPARE(list(form())->selectedIdx(), 0);
+        type("2-00");
+        QCOMPARE(details(), QString("Anna"));
+        toText();
+        type("  ");
+        sendForm("Enter a text");
+        type("Hello, are you there?");
+        TestScreen::shot("message-form");
+        click(Qt::Key_Context4);
+        QCOMPARE(toast(), QString("Sent"));
+        TestScreen::shot("message-sent");
+        QTRY_VERIFY(app()->isActiveWindow()); // the toast goes by itself, and the form with it
+        QCOMPARE(title(), QString("Messages | Sent (1)"));
+        QCOMPARE(rows(), QStringList{"Anna"});
+        TestScreen::shot("messages");
+        QCOMPARE(static_cast<ListViewSubTitleItem *>(list()->item(0))->subTitle(0)->text(),
+                 QString("  Hello, are you there?"));
+        click(Qt::Key_Context1);
+        QVERIFY(formIsOpen());
+        QCOMPARE(receiver() + text(), QString());
+    }
+
+    void aMessageDuringTheToastKeepsItsForm()
+    {
+        QVERIFY(openNew("100"));
+        type("Hello");
+        click(Qt::Key_Context4);
+        QCOMPARE(toast(), QString("Sent"));
+        receive("newMessage(str)", {"200"});
+        settle();
+        QCOMPARE(toast(), QString());
+        QVERIFY(form()->isVisible());
+        type("Bye");
+        QCOMPARE(receiver() + text(), QString("200Bye"));
+        app()->end();
+        receive("setReceiver(str)", {"300"});
+        QVERIFY(formIsOpen());
+        QCOMPARE(receiver() + text(), QString("300"));
+    }
+
+    void sendsAgainAndDeletes()
+    {
+        for (const char *number : {"100", "200", "300"}) {
+            QVERIFY(openNew(number));
+            type("Hello");
+            sendForm("Sent");
+            QVERIFY(!app()->isVisible()); // what another application asks for ends as a whole
+        }
+        QVERIFY(start());
+        clickAll({Qt::Key_Up, Qt::Key_Return}); // around to the last
+        QVERIFY(formIsOpen());
+        QCOMPARE(receiver() + text(), QString("100Hello"));
+        sendForm("Sent");
+        QVERIFY(isOpen(app()));
+        QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}));
+        QCOMPARE(list()->selectedIdx(), 0);
+        click(Qt::Key_Up);
+        for (int left = 3; left >= 0; --left) {
+            click(Qt::Key_Context3);
+            QCOMPARE(list()->selectedIdx(), left - 1);
+            QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}).mid(0, left));
+        }
+        QCOMPARE(softKeys(), QStringList({"New", "", "", "Close"}));
+        click(Qt::Key_Return);
+        QVERIFY(!form()->isVisible());
+        remake();
+        QCOMPARE(rows(), QStringList());
+    }
+
+    void keepsTheNewest()
+    {
+        m_screen.reset();
+        {
+            SentMessages store(m_phone->home.path("data/messages.db"));
+            for (int i = 1; i <= SentMessages::MostMessages + 2; ++i)
+                QVERIFY(store.add(QString::number(i), "Text", QDateTime::currentDateTime().addDays(-i)));
+        }
+        remake();
+        QCOMPARE(rows().size(), SentMessages::MostMessages);
+        QCOMPARE(rows().last(), QString("3"));
+    }
+
+    void aFileThatIsNoDatabase()
+    {
+        const QByteArray garbage(4096, 'x');
+        m_screen.reset();
+        QFile file(m_phone->home.path("data/messages.db"));
+        QVERIFY(file.remove());
+        m_phone->writeFile("data/messages.db", garbage);
+        expectWarning("not a database");
+        expectWarning("cannot be kept in");
+        remake();
+        QVERIFY(openNew("100"));
+        type("Hello");
+        sendForm("Failed");
+        QCOMPARE(text(), QString("Hello"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), garbage);
+    }
+
+    void senselessMessages()
+    {
+        receiveSenseless({"setReceiver(str)", "unknown(str)", "newMessage"});
+        QVERIFY(!form()->isVisible());
+        for (const QByteArray &payload : senselessPayloads()) {
+            sendRaw("message", "newMessage(str)", payload);
+            QVERIFY(formIsOpen());
+            QCOMPARE(ContactData::bareNumber(receiver()), QString());
+        }
+        receive("newMessage(str)", {QString(100000, '7')});
+        QCOMPARE(receiver().size(), 32);
+    }
 
 private:
     MessageForm *form() { return app()->findChild<MessageForm *>(); }
@@ -43,200 +164,22 @@ private:
         receive("newMessage(str)", {number});
         return formIsOpen();
     }
+    void toText()
+    {
+        click(Qt::Key_Down);
+        settle();
+    }
     /// Sends with the soft key, or is told what is missing; any key sends the toast away.
-    void sendForm(const QString &answer = "Sent", const QString &shot = QString())
+    void sendForm(const QString &answer)
     {
         click(Qt::Key_Context4);
         QCOMPARE(toast(), answer);
-        if (!shot.isEmpty())
-            TestScreen::shot(shot);
         click(Qt::Key_Context4);
         settle();
         QCOMPARE(toast(), QString());
         QCOMPARE(form()->isVisible(), answer != "Sent");
     }
-    void sendNew(const QString &number, const QString &words)
-    {
-        QVERIFY(openNew(number));
-        type(words);
-        sendForm();
-    }
 };
-
-void MessageAppTest::writesAndSends()
-{
-    m_phone->addContact("Anna", {"100", "200"});
-    QVERIFY(start());
-    TestScreen::shot("messages-empty");
-    click(Qt::Key_Context1);
-    QVERIFY(formIsOpen());
-    QCOMPARE(title(), QString("Messages | New"));
-    QCOMPARE(softKeys(form()), QStringList({"Close", "Search", "Erase", "Send"}));
-    QCOMPARE(m_phone->core.getIMEStatus(), IMENumeric);
-    TestScreen::shot("message-new");
-    type("2-00");
-    QCOMPARE(details(), QString("Anna"));
-    click(Qt::Key_Down);
-    settle();
-    QCOMPARE(m_phone->core.getIMEStatus(), IMESmall);
-    type("Helloo");
-    click(Qt::Key_Context3);
-    QCOMPARE(text(), QString("Hello"));
-    press(Qt::Key_Context3);
-    QTRY_COMPARE(text(), QString()); // while it is held
-    release(Qt::Key_Context3);
-    QCOMPARE(receiver(), QString("2-00"));
-    type("Hello, are you there?");
-    click(Qt::Key_Context4);
-    QCOMPARE(toast(), QString("Sent"));
-    TestScreen::shot("message-sent");
-    QTRY_VERIFY(app()->isActiveWindow()); // the toast goes by itself, and the form with it
-    QCOMPARE(title(), QString("Messages | Sent (1)"));
-    QCOMPARE(rows(), QStringList{"Anna"});
-    QCOMPARE(static_cast<ListViewSubTitleItem *>(list()->item(0))->subTitle(0)->text(),
-             QString("Hello, are you there?"));
-    click(Qt::Key_Context1);
-    QVERIFY(formIsOpen());
-    QCOMPARE(receiver() + text(), QString());
-}
-
-void MessageAppTest::asksForWhatIsMissing()
-{
-    QVERIFY(openNew(""));
-    type("()");
-    click(Qt::Key_Down);
-    settle();
-    type("Hello");
-    sendForm("Enter a number");
-    QCOMPARE(list(form())->selectedIdx(), 0);
-    type("5");
-    QCOMPARE(receiver(), QString("()5"));
-    click(Qt::Key_Down);
-    settle();
-    list(form())->lineEdit()->setText("  ");
-    sendForm("Enter a text", "message-missing");
-    type("Hello");
-    QCOMPARE(text(), QString("  Hello"));
-    QCOMPARE(rows(), QStringList());
-}
-
-void MessageAppTest::takesTheReceiverFromTheContacts()
-{
-    m_phone->addContact("Anna Adams", {"+49100"});
-    QVERIFY(openNew(""));
-    receive("setReceiver(str)", {"+49100"});
-    QCOMPARE(details(), QString("Anna Adams"));
-    settle();
-    type("See you at the station at ten. Bring an umbrella!"); // the text is next
-    TestScreen::shot("message-form");
-    list(form())->lineEdit()->setText("Hi");
-    receive("setReceiver(str)", {"200"});
-    QCOMPARE(receiver() + text(), QString("200Hi"));
-}
-
-void MessageAppTest::aMessageDuringTheToastKeepsItsForm()
-{
-    QVERIFY(openNew("100"));
-    type("Hello");
-    click(Qt::Key_Context4);
-    QCOMPARE(toast(), QString("Sent"));
-    receive("newMessage(str)", {"200"});
-    settle();
-    QCOMPARE(toast(), QString());
-    QVERIFY(form()->isVisible());
-    type("Bye");
-    QCOMPARE(receiver() + text(), QString("200Bye"));
-    app()->end();
-    receive("setReceiver(str)", {"300"});
-    QVERIFY(formIsOpen());
-    QCOMPARE(receiver() + text(), QString("300"));
-}
-
-void MessageAppTest::sendsAgainAndDeletes()
-{
-    for (const char *number : {"100", "200", "300"})
-        sendNew(number, "Hello");
-    QVERIFY(start());
-    click(Qt::Key_Up); // around to the last
-    click(Qt::Key_Return);
-    QVERIFY(formIsOpen());
-    QCOMPARE(receiver() + text(), QString("100Hello"));
-    sendForm();
-    QVERIFY(isOpen(app()));
-    QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}));
-    QCOMPARE(list()->selectedIdx(), 0);
-    click(Qt::Key_Up);
-    for (int left = 3; left >= 0; --left) {
-        click(Qt::Key_Context3);
-        QCOMPARE(list()->selectedIdx(), left - 1);
-        QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}).mid(0, left));
-    }
-    QCOMPARE(softKeys(), QStringList({"New", "", "", "Close"}));
-    click(Qt::Key_Return);
-    QVERIFY(!form()->isVisible());
-    remake();
-    QCOMPARE(rows(), QStringList());
-}
-
-void MessageAppTest::showsWhatWasSent()
-{
-    m_phone->addContact("Anna Adams", {"+49100"});
-    m_phone->addContact("김철수", {"0101234"});
-    sendNew("004912345678901", "Где ты?");
-    sendNew("0101234", "안녕하세요");
-    sendNew("+49100", "See you at the station at ten.");
-    QVERIFY(start());
-    TestScreen::shot("messages");
-    sendNew("100", "Yes");
-    QVERIFY(!app()->isVisible()); // what another application asks for ends as a whole
-    QVERIFY(start());
-    TestScreen::shot("messages-more");
-    QCOMPARE(rows(), QStringList({"100", "Anna Adams", "김철수", "004912345678901"}));
-}
-
-void MessageAppTest::keepsTheNewest()
-{
-    m_screen.reset();
-    {
-        SentMessages store(m_phone->home.path("data/messages.db"));
-        for (int i = 1; i <= SentMessages::MostMessages + 2; ++i)
-            QVERIFY(store.add(QString::number(i), "Text", QDateTime::currentDateTime().addDays(-i)));
-    }
-    remake();
-    QCOMPARE(rows().size(), SentMessages::MostMessages);
-    QCOMPARE(rows().last(), QString("3"));
-}
-
-void MessageAppTest::aFileThatIsNoDatabase()
-{
-    const QByteArray garbage(4096, 'x');
-    m_screen.reset();
-    QFile file(m_phone->home.path("data/messages.db"));
-    QVERIFY(file.remove());
-    m_phone->writeFile("data/messages.db", garbage);
-    expectWarning("not a database");
-    expectWarning("cannot be kept in");
-    remake();
-    QVERIFY(openNew("100"));
-    type("Hello");
-    sendForm("Failed");
-    QCOMPARE(text(), QString("Hello"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), garbage);
-}
-
-void MessageAppTest::senselessMessages()
-{
-    receiveSenseless({"setReceiver(str)", "unknown(str)", "newMessage"});
-    QVERIFY(!form()->isVisible());
-    for (const QByteArray &payload : senselessPayloads()) {
-        sendRaw("message", "newMessage(str)", payload);
-        QVERIFY(formIsOpen());
-        QCOMPARE(ContactData::bareNumber(receiver()), QString());
-    }
-    receive("newMessage(str)", {QString(100000, '7')});
-    QCOMPARE(receiver().size(), 32);
-}
 
 PHONE_TEST_MAIN(MessageAppTest)
 #include "tst_messageapp.moc"

@@ -9,50 +9,44 @@ class PluginHostTest : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void loadsTheContactApplication();
-    void refusesWhatIsNoPlugin();
-    void checksTheVerificationBlock();
-};
-
-void PluginHostTest::loadsTheContactApplication()
-{
-    PluginHost host;
-    BaseAppInterface *app = host.load(PHONE_PROGRAMS "/contact.so");
-    QVERIFY(app);
-    QCOMPARE(m_phone->core.getAppMap().value("contact"), app);
-    auto *object = dynamic_cast<QObject *>(app);
-    QVERIFY(object);
-    QVERIFY(object->qt_metacast("Contact"));
-    QVERIFY(object->qt_metacast("BaseAppInterface"));
-    QCOMPARE(object->qt_metacast(BaseAppInterface_iid), static_cast<void *>(app));
-    // The plug-in gives the same object as long as it lives, and a new one after that.
-    QCOMPARE(host.load(PHONE_PROGRAMS "/contact.so"), app);
-    host.unload();
-    QVERIFY(m_phone->core.getAppMap().isEmpty());
-    QVERIFY(host.load(PHONE_PROGRAMS "/contact.so"));
-}
-
-void PluginHostTest::refusesWhatIsNoPlugin()
-{
-    PluginHost host;
-    m_phone->writeFile("text.so", "no library");
-    for (const QString &path :
-         {m_phone->home.path("text.so"), m_phone->home.path("missing.so"), QString(PHONE_PROGRAMS "/libbase.so")}) {
-        expectWarning("refused: it is no plug-in");
-        QVERIFY(!host.load(path));
+    void loadsTheContactApplication()
+    {
+        PluginHost host;
+        BaseAppInterface *app = host.load(PHONE_PROGRAMS "/contact.so");
+        QVERIFY(app);
+        QCOMPARE(m_phone->core.getAppMap().value("contact"), app);
+        auto *object = dynamic_cast<QObject *>(app);
+        QVERIFY(object && object->qt_metacast("Contact") && object->qt_metacast("BaseAppInterface"));
+        QCOMPARE(object->qt_metacast(BaseAppInterface_iid), static_cast<void *>(app));
+        // The plug-in gives the same object as long as it lives, and a new one after that.
+        QCOMPARE(host.load(PHONE_PROGRAMS "/contact.so"), app);
+        host.unload();
+        QVERIFY(m_phone->core.getAppMap().isEmpty());
+        QVERIFY(host.load(PHONE_PROGRAMS "/contact.so"));
     }
-}
 
-void PluginHostTest::checksTheVerificationBlock()
-{
-    const QByteArray own = PHONEUI_PLUGIN_VERIFICATION_DATA;
-    const auto with = [&own](const char *from, const char *to) { return QByteArray(own).replace(from, to); };
-    for (const QByteArray &good : {own, with("4.8.4", "4.8.7")}) // of another patch version
-        QCOMPARE(PluginHost::verificationFault(good), QString());
-    for (const QByteArray &bad : {with("4.8.4", "4.7.4"), with("false", "true"), with("arm", "mips"),
-                                  with("QT_PLUGIN", "QT_GARDEN"), QByteArray(), QByteArray("\x01\x02=\n==\n")})
-        QVERIFY2(!PluginHost::verificationFault(bad).isEmpty(), bad.constData());
-}
+    void refusesWhatIsNoPlugin()
+    {
+        PluginHost host;
+        m_phone->writeFile("text.so", "no library");
+        for (const QString &path : {m_phone->home.path("text.so"), m_phone->home.path("missing.so"),
+                                    QString(PHONE_PROGRAMS "/libbase.so")}) {
+            expectWarning("refused: it is no plug-in");
+            QVERIFY(!host.load(path));
+        }
+    }
+
+    void checksTheVerificationBlock()
+    {
+        const QByteArray own = PHONEUI_PLUGIN_VERIFICATION_DATA;
+        const auto with = [&own](const char *from, const char *to) { return QByteArray(own).replace(from, to); };
+        for (const QByteArray &good : {own, with("4.8.4", "4.8.7")}) // of another patch version
+            QCOMPARE(PluginHost::verificationFault(good), QString());
+        for (const QByteArray &bad : {with("4.8.4", "4.7.4"), with("false", "true"), with("arm", "mips"),
+                                      with("QT_PLUGIN", "QT_GARDEN"), QByteArray(), QByteArray("\x01\x02=\n==\n")})
+            QVERIFY2(!PluginHost::verificationFault(bad).isEmpty(), bad.constData());
+    }
+};
 
 PHONE_TEST_MAIN(PluginHostTest)
 #include "tst_pluginhost.moc"

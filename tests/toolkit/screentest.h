@@ -1,29 +1,14 @@
 #ifndef SCREENTEST_H
 #define SCREENTEST_H
 
-#include "basewidget.h"
-#include "phonekeys.h"
+#include "phonetest.h"
 #include "status.h"
 #include "tail.h"
-#include "testcase.h"
 #include "testmain.h"
-#include "testphone.h"
 
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTimer>
-
-#include <memory>
-
-/// A test on a phone that is new for each of its functions.
-class PhoneTest : public TestCase
-{
-protected:
-    void setUp() override { m_phone.reset(new TestPhone); }
-    void tearDown() override { m_phone.reset(); }
-
-    std::unique_ptr<TestPhone> m_phone;
-};
 
 /// A screen with four soft keys: its focus lies in a child, as in a list.
 class KeyScreen : public BaseWidget
@@ -56,16 +41,14 @@ protected:
     void setUp() override
     {
         PhoneTest::setUp();
-        m_screen.reset(new KeyScreen);
-        QVERIFY(PhoneKeys::showAndActivate(m_screen.get()));
+        open(new KeyScreen);
     }
-    void tearDown() override
+    KeyScreen *screen() const { return static_cast<KeyScreen *>(m_screen.get()); }
+    /// Windows come active once the present event is done.
+    bool screenHasKeys() const
     {
-        m_screen.reset();
-        PhoneTest::tearDown();
+        return QTest::qWaitFor([this] { return screen()->list->hasFocus(); });
     }
-
-    std::unique_ptr<KeyScreen> m_screen;
 };
 
 constexpr int StillOpen = 99;

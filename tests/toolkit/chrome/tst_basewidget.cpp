@@ -1,15 +1,23 @@
+#include "imagebutton.h"
 #include "screentest.h"
+#include "tailbutton.h"
+#include "textbutton.h"
 
-#include <QKeyEvent>
-#include <QPointer>
+#include <QLineEdit>
 #include <QSettings>
-#include <QTimer>
 
 using namespace PhoneKeys;
 
+/// Screens, their bar of soft keys, and buttons that look like them.
 class BaseWidgetTest : public ScreenTest
 {
     Q_OBJECT
+
+    void setUp() override
+    {
+        ScreenTest::setUp();
+        m_bar = screen()->bar();
+    }
 
 private slots:
     void fillsTheDisplayBelowTheStatusBar()
@@ -26,13 +34,13 @@ private slots:
     {
         KeyScreen above("Above");
         QVERIFY(showAndActivate(&above));
-        QCOMPARE(m_phone->status.title(), QString("Above"));
+        QCOMPARE(title(), QString("Above"));
         press(Qt::Key_Escape);
         QVERIFY(above.isVisible());
         release(Qt::Key_Escape);
         QVERIFY(!above.isVisible());
-        QTRY_COMPARE(m_phone->status.title(), QString("Screen"));
-        QVERIFY(m_screen->isVisible() && m_screen->list->hasFocus());
+        QTRY_COMPARE(title(), QString("Screen"));
+        QVERIFY(m_screen->isVisible() && screenHasKeys());
     }
 
     void aRetiredScreenOutlivesLoopsOfItsHandlers()
@@ -47,36 +55,11 @@ private slots:
         QTRY_VERIFY(!screen);
     }
 
-    void otherKeysKeepTheirAcceptState()
-    {
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            for (const bool accepted : {false, true}) {
-                QKeyEvent event(type, Qt::Key_5, Qt::NoModifier);
-                event.setAccepted(accepted);
-                QCoreApplication::sendEvent(m_screen.get(), &event);
-                QCOMPARE(event.isAccepted(), accepted);
-            }
-        }
-    }
-
-    void closedFromOutsideItTakesItsBoxesAlong()
-    {
-        KeyScreen screen;
-        int answer = StillOpen;
-        const int result = runBox(screen, [&] {
-            QDialog question(&screen);
-            answer = runBox(question, [&] { screen.close(); });
-        });
-        QCOMPARE(answer, int(QDialog::Rejected));
-        QCOMPARE(result, int(QDialog::Rejected));
-    }
-
     void locksShowAsTheSettingsSay()
     {
-        // Of a system with a call lock and of one without.
         const struct
         {
-            int systemType;
+            int systemType; // without a call lock, and with one
             bool menu;
             int callLock, changes;
         } locks[] = {{1, false, 0, 0}, {1, true, 0, 1}, {1, true, 2, 1}, {2, true, 2, 1}};
@@ -91,6 +74,149 @@ private slots:
             QCOMPARE(changes.size(), lock.changes);
         }
     }
+
+    void softKeysClickWhicheverWidgetHasTheFocus()
+    {
+        QSignalSpy clicked(m_bar, &Tail::clicked), pressed(m_bar, &Tail::pressed);
+        for (const bool inChild : {true, false}) {
+            screen()->list->setVisible(inChild);
+            for (int i = 0; i < Tail::ButtonCount; ++i) {
+                press(Qt::Key(Qt::Key_Context1 + i));
+                QVERIFY(m_bar->button(i)->isDown());
+                release(Qt::Key(Qt::Key_Context1 + i));
+                QVERIFY(!m_bar->button(i)->isDown());
+                QCOMPARE(clicked.takeLast(), QVariantList{i});
+                QCOMPARE(pressed.takeFirst(), (QVariantList{i, true}));
+                QCOMPARE(pressed.takeFirst(), (QVariantList{i, false}));
+            }
+        }
+        // Nothing happens without a text or without a press.
+        m_bar->setFuncButtonText(1, QString());
+        click(Qt::Key_Context2);
+        release(Qt::Key_Context1);
+        QCOMPARE(clicked.size() + pressed.size(), 0);
+    }
+
+    void aHoldIsALongPressAndThenAClick()
+    {
+        QStringList heard;
+        connect(m_bar, &Tail::longPress, this, [&](int idx) { heard.append(QString("long %1").arg(idx)); });
+        connect(m_bar, &Tail::clicked, this, [&](int idx) { heard.append(QString("click %1").arg(idx)); });
+        connect(m_bar, &Tail::pressed, this,
+                [&](int idx, bool down) { heard.append(QString("%1 %2").arg(down ? "down" : "up").arg(idx)); });
+        press(Qt::Key_Context4);
+        QTRY_COMPARE(heard, QStringList({"down 3", "long 3"}));
+        QVERIFY(!m_bar->button(3)->isDown());
+        release(Qt::Key_Context4);
+        QCOMPARE(heard.mid(2), QStringList({"up 3", "click 3"}));
+        // The bar counts one more release after a long press, and then none.
+        release(Qt::Key_Context1);
+        release(Qt::Key_Context1);
+        QCOMPARE(heard.mid(4), QStringList({"up 3", "click 0"}));
+    }
+
+    void theThirdKeyErasesWhileTextIsTyped()
+    {
+        QLineEdit edit("abc", m_screen.get());
+        edit.show();
+        edit.setFocus();
+        QCOMPARE(m_bar->funcButtonText(2), QString("Erase"));
+        QSignalSpy clicked(m_bar, &Tail::clicked);
+        click(Qt::Key_Context3);
+        QCOMPARE(edit.text(), QString("ab"));
+        QVERIFY(clicked.isEmpty());
+
+        m_bar->setFuncButtonText(2, "Save");
+        m_bar->setUseEraseStr(true);
+        m_bar->setEraseStr("Rub out");
+        m_bar->changedIMEStatus(IMECapital);
+        QCOMPARE(m_bar->funcButtonText(2), QString("Rub out"));
+        screen()->list->setFocus();
+        QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
+        // A bar that is blocked keeps its text.
+        QDialog popup(m_screen.get());
+        popup.setModal(true);
+        popup.show();
+        m_bar->changedIMEStatus(IMESmall);
+        QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
+    }
+
+    void findsButtons()
+    {
+        QCOMPARE(m_bar->findButtonIndex("Key", 3, 2), 2); // from the smaller bound
+        QCOMPARE(m_bar->findButtonIndex("Key 1", 1, 3), -1);
+        for (const int idx : {-1, 4}) {
+            m_bar->setFuncButtonText(idx, "lost");
+            QVERIFY(!m_bar->button(idx) && m_bar->funcButtonText(idx).isEmpty());
+            QVERIFY(m_bar->buttonGeometry(idx).isNull() && m_bar->buttonWidth(idx) == m_bar->width() / 4);
+        }
+    }
+
+    void aButtonWithTheFocus()
+    {
+        KeyCounter window;
+        ImageButton button(&window);
+        QVERIFY(showAndActivate(&window));
+        button.setFocus();
+        QStringList heard;
+        connect(&button, &ImageButton::clicked, this, [&] { heard.append("click"); });
+        click(Qt::Key_Return);
+        release(Qt::Key_Enter); // it keeps no press of its own
+        QTest::mouseClick(&button, Qt::RightButton);
+        QCOMPARE(heard.size(), 2);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(heard.size(), 3);
+        click(Qt::Key_Context4);
+        QCOMPARE(window.presses, QList<int>{Qt::Key_Context4});
+        QCOMPARE(window.releases, window.presses);
+    }
+
+    /// Soft keys, buttons with texts, icons and a ground of their own, and a plain one; up, and below it down.
+    void pictures()
+    {
+        const QStringList texts{"Edit", "Create Group", "", "∨", "ERASE", "X", ">>", ">", "MSG_Erase"};
+        const QPixmap icon(":ui/images/widget/softkey_ok.png"), downIcon(":ui/images/widget/softkey_ok_sel.png");
+        for (const QString design : {"0", "1"}) {
+            QSettings(m_phone->core.configFileName(SettingsConfig), QSettings::IniFormat)
+                .setValue("Settings/Design", design);
+            QImage all(384, 10 * 27, QImage::Format_RGB32);
+            all.fill(Qt::white);
+            for (const bool down : {false, true}) {
+                int place = down * 20;
+                const auto draw = [&](QWidget &button) {
+                    button.resize(92, 27);
+                    button.render(&all, QPoint(place % 4 * 96, place / 4 * 27));
+                    ++place;
+                };
+                for (const QString &text : texts) {
+                    m_bar->button(0)->setText(text);
+                    m_bar->button(0)->setDown(down && !text.isEmpty());
+                    draw(*m_bar->button(0));
+                }
+                for (const QString text : {"Delete", "Create Group", "", "OK"}) {
+                    ImageButton button(nullptr);
+                    button.setText(text);
+                    if (text.size() < 3) {
+                        button.setIcon(icon);
+                        button.setPressIcon(downIcon);
+                    }
+                    if (text == "Delete")
+                        button.setBgColor(QColor(0xdd, 0xee, 0xff));
+                    button.setHover(down);
+                    draw(button);
+                }
+                TextButton plain(nullptr);
+                plain.setText("Text");
+                plain.setDown(down);
+                draw(plain);
+            }
+            QVERIFY(all.pixelColor(6, 10) != all.pixelColor(6, 145));
+            TestScreen::save(all, "softkeys-" + design);
+        }
+    }
+
+private:
+    Tail *m_bar = nullptr;
 };
 
 PHONE_TEST_MAIN(BaseWidgetTest)

@@ -8,11 +8,12 @@
 template <class List = ListView> class ListWindow : public KeyCounter
 {
 public:
-    ListWindow()
+    explicit ListWindow(int rows = 0)
     {
         setGeometry(0, 26, 384, 134);
         list = new List(this);
         list->setGeometry(5, 2, 374, 104);
+        add(rows);
     }
 
     void add(int count)
@@ -24,11 +25,6 @@ public:
     {
         for (ListViewItem *row : rows)
             list->addItem(row);
-    }
-    void disable(const QList<int> &rows)
-    {
-        for (int row : rows)
-            list->item(row)->setItemSelectEnable(false);
     }
     bool showNow() { return PhoneKeys::showAndActivate(this); }
 

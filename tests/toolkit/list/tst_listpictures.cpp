@@ -7,16 +7,6 @@
 /// Places in the list, as "x,y x,y", by the colour that they have.
 using Pixels = QVector<QPair<QRgb, QString>>;
 
-struct Look
-{
-    int rows, selected;
-    eListViewItemFocusType focusType;
-    int scrollBar;
-    bool pressed;
-    Pixels pixels;
-};
-Q_DECLARE_METATYPE(Look)
-
 static const QRgb Grey = qRgb(187, 187, 187), Dark = qRgb(85, 85, 85), White = qRgb(255, 255, 255),
                   Black = qRgb(0, 0, 0);
 
@@ -26,52 +16,61 @@ class TestListPictures : public TestCase
     Q_OBJECT
 
 private slots:
-    void lists_data()
+    void lists()
     {
-        QTest::addColumn<Look>("c");
-        const auto look = [](const char *name, int rows, int selected, eListViewItemFocusType focusType,
-                             int scrollBar, bool pressed, const Pixels &pixels) {
-            QTest::newRow(name) << Look{rows, selected, focusType, scrollBar, pressed, pixels};
-        };
         // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
         // dotted. The frame stands over the separator.
         const auto floating = ListViewFocusFloating;
-        look("list-thin", 8, 0, floating, 0, false,
-             {{White, "369,60 200,0 200,33 2,67 367,67 3,101"},
-              {Grey, "370,60 373,60 0,67 1,67 366,67"},
-              {Dark, "370,5 373,5"},
-              {Black, "6,0 6,32"}});
-        look("list-clear", 8, 4, floating, 1, false, {{White, "368,50 373,50 370,10"}, {Dark, "369,50 372,50"}});
-        look("list-boxed", 8, 7, floating, 2, false,
-             {{Dark, "368,10 373,10 370,90 372,90"}, {White, "369,10 372,10 369,90"}});
-        look("list-pressed", 8, 1, floating, 0, true, {{Black, "200,33 200,70 366,50"}, {White, "200,71 367,50"}});
-        look("list-last", 3, 2, floating, 0, false, {{Black, "6,67 6,101 373,95"}, {Grey, "2,33"}});
-        look("list-pressed-last", 3, 2, floating, 0, true, {{Black, "200,103"}, {White, "200,66"}});
-        look("list-two", 2, 1, floating, 0, false, {{Black, "6,66"}, {White, "0,71"}});
-        look("list-bar", 8, 1, ListViewFocusBar, 0, false,
-             {{Black, "0,34 366,50"}, {White, "200,32 2,67"}, {Grey, "0,67"}});
-        look("list-flat", 3, 1, ListViewFocusFlat, 0, false, {{White, "0,34 200,50"}, {Grey, "0,67"}});
-        look("list-empty", 0, 0, floating, 0, false, {{White, "0,33"}});
-    }
-
-    void lists()
-    {
-        QFETCH(Look, c);
-        ListWindow window;
-        window.add(c.rows);
-        window.list->setFocusType(c.focusType);
-        for (int i = 0; i < c.rows; ++i)
-            window.list->item(i)->setFocusType(c.focusType);
-        if (c.rows > 0)
-            window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
-        window.list->setShowEmptyString(true);
-        window.list->setSelectedIdx(c.selected);
-        window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(c.scrollBar));
-        QVERIFY(window.showNow());
-        window.list->setStartIdx(c.selected > 2 ? c.selected / 3 * 3 : 0);
-        if (c.pressed)
-            PhoneKeys::press(Enter);
-        check(picture(window, QTest::currentDataTag()), c.pixels);
+        const struct
+        {
+            const char *name;
+            int rows, selected;
+            eListViewItemFocusType focusType;
+            int scrollBar;
+            bool pressed;
+            Pixels pixels;
+        } looks[] = {
+            {"list-thin",
+             8,
+             0,
+             floating,
+             0,
+             false,
+             {{White, "369,60 200,0 200,33 2,67 367,67 3,101"}, {Grey, "370,60 0,67 366,67"}, {Black, "6,0 6,32"}}},
+            {"list-clear", 8, 4, floating, 1, false, {{White, "368,50 373,50 370,10"}, {Dark, "369,50 372,50"}}},
+            {"list-boxed",
+             8,
+             7,
+             floating,
+             2,
+             false,
+             {{Dark, "368,10 373,10 370,90 372,90"}, {White, "369,10 372,10 369,90"}}},
+            {"list-pressed", 8, 1, floating, 0, true, {{Black, "200,33 200,70 366,50"}, {White, "200,71 367,50"}}},
+            {"list-last", 3, 2, floating, 0, false, {{Black, "6,67 6,101 373,95"}, {Grey, "2,33"}}},
+            {"list-bar",
+             8,
+             1,
+             ListViewFocusBar,
+             0,
+             false,
+             {{Black, "0,34 366,50"}, {White, "200,32 2,67"}, {Grey, "0,67"}}},
+            {"list-empty", 0, 0, floating, 0, false, {{White, "0,33"}}}};
+        for (const auto &look : looks) {
+            ListWindow window(look.rows);
+            window.list->setFocusType(look.focusType);
+            for (int i = 0; i < look.rows; ++i)
+                window.list->item(i)->setFocusType(look.focusType);
+            if (look.rows > 0)
+                window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
+            window.list->setShowEmptyString(true);
+            window.list->setSelectedIdx(look.selected);
+            window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(look.scrollBar));
+            QVERIFY(window.showNow());
+            window.list->setStartIdx(look.selected > 2 ? look.selected / 3 * 3 : 0);
+            if (look.pressed)
+                PhoneKeys::press(Enter);
+            check(picture(window, look.name), look.pixels);
+        }
     }
 
     void grid()
@@ -87,18 +86,10 @@ private slots:
         PhoneKeys::press(Enter);
         check(picture(window, "grid-pressed"), {{Black, "373,50 190,50"}, {White, "189,50"}});
         PhoneKeys::release(Enter);
-        window.list->setSelectedIdx(2);
-        picture(window, "grid-last-line");
-
         window.list->setUseDotLines(false);
         window.list->setUseDivideLines(true);
-        window.list->setUseTopLine(true);
-        window.list->setUseBottomLine(true);
-        window.list->setUseSideLine(true);
         window.list->setShowIndex(true);
         window.list->setGridSize(2, 3);
-        window.list->setRowGap(4);
-        window.list->setColGap(4);
         window.list->itemClear();
         const QPixmap icon(":/ui/images/widget/confirm.png"), small = icon.scaled(24, 24);
         window.add({new GridListViewItem("Settings", icon, QPixmap()),

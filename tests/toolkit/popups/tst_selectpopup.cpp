@@ -1,20 +1,11 @@
 #include "gridselectpopup.h"
 #include "imagebutton.h"
+#include "listviewcheckitem.h"
 #include "screentest.h"
 #include "soundmanager.h"
 #include "soundselectpopup.h"
 
 using namespace PhoneKeys;
-
-using Prepare = void (*)(SelectPopup &);
-
-struct Ending
-{
-    Prepare prepare;
-    QList<int> keys;
-    int result, idx;
-};
-Q_DECLARE_METATYPE(Ending)
 
 /// A popup with rows, which may slide, as the popups of the phone could.
 class FilledPopup : public SoundSelectPopup
@@ -27,7 +18,7 @@ public:
     }
     void add(int rows)
     {
-        for (int i = 0; i < rows; ++i)
+        for (int i = 1; i <= rows; ++i)
             addListViewItem(QString("Choice %1").arg(i));
     }
 };
@@ -42,68 +33,59 @@ class SelectPopupTest : public ScreenTest
     Q_OBJECT
 
 private slots:
-    void keysEndIt_data()
+    void keysEndIt()
     {
-        const auto plain = [](SelectPopup &) {};
-        const auto multiple = [](SelectPopup &popup) { popup.setMultipleCheck(true); };
-        const auto withOk = [](SelectPopup &popup) {
+        using Prepare = void (*)(SelectPopup &);
+        const Prepare plain = [](SelectPopup &) {};
+        const Prepare multiple = [](SelectPopup &popup) { popup.setMultipleCheck(true); };
+        const Prepare withOk = [](SelectPopup &popup) {
             popup.nextButton()->hide();
             popup.okButton()->show();
         };
-        const auto otherKeys = [](SelectPopup &popup) {
+        const Prepare otherKeys = [](SelectPopup &popup) {
             popup.setCancelKey(Qt::Key_Context1);
             popup.setNextKey(Qt::Key_Context2);
         };
         const int enter = Qt::Key_Return, down = Qt::Key_Down, page = Qt::Key_Context3, cancel = Qt::Key_Context4,
                   yes = QDialog::Accepted, no = QDialog::Rejected;
-        addCases<Ending>({{"a row", {plain, {down, enter}, yes, 1}},
-                          {"cancel", {plain, {down, cancel}, no, -1}},
-                          {"escape", {plain, {Qt::Key_Escape}, no, -1}},
-                          {"another key", {plain, {Qt::Key_Context1, Qt::Key_5}, StillOpen, -1}},
-                          {"the next page", {plain, {page, enter}, yes, 4}},
-                          {"the first page again", {plain, {page, page, enter}, yes, 0}},
-                          {"a checked row stays", {multiple, {down, enter}, StillOpen, 1}},
-                          {"checks are done", {multiple, {enter, page}, yes, 0}},
-                          {"checks are given up", {multiple, {enter, cancel}, no, -1}},
-                          {"the OK key accepts", {withOk, {page}, yes, -1}},
-                          {"its own cancel key", {otherKeys, {Qt::Key_Context1}, no, -1}},
-                          {"its own page key", {otherKeys, {page, cancel, Qt::Key_Context2, enter}, yes, 4}}});
-    }
-
-    void keysEndIt()
-    {
-        QFETCH(Ending, c);
-        FilledPopup popup(m_screen.get());
-        c.prepare(popup);
-        const int result = runBox(popup, [&] {
-            QVERIFY(!theCore->soundManager()->isEnabledKeytone());
-            clickAll(c.keys);
-        });
-        QCOMPARE(result, c.result);
-        QCOMPARE(popup.selectedIdx(), c.idx);
-        QVERIFY(theCore->soundManager()->isEnabledKeytone());
-        QVERIFY(screenHasKeys());
-    }
-
-    void keysPressItsButtons()
-    {
-        FilledPopup popup(m_screen.get());
-        QStringList heard;
-        const auto listen = [&](ImageButton *button, const QString &name) {
-            connect(button, &ImageButton::isHover, this,
-                    [&heard, name](bool on) { heard += name + (on ? '+' : '-'); });
-        };
-        listen(popup.nextButton(), "next");
-        listen(popup.okButton(), "ok");
-        listen(popup.cancelButton(), "cancel");
-        runBox(popup, [&] {
-            click(Qt::Key_Context3);
-            popup.nextButton()->hide();
-            popup.okButton()->show();
-            press(Qt::Key_Context3);
-            click(Qt::Key_Escape);
-        });
-        QCOMPARE(heard, QStringList({"next+", "next-", "ok+", "cancel+", "cancel-"}));
+        const struct
+        {
+            Prepare prepare;
+            QList<int> keys;
+            int result, idx;
+            QString looks; // of the buttons, as they light up and go out
+        } endings[] = {{plain, {down, enter}, yes, 1, ""},
+                       {plain, {down, cancel}, no, -1, "cancel+cancel-"},
+                       {plain, {Qt::Key_Escape}, no, -1, "cancel+cancel-"},
+                       {plain, {Qt::Key_Context1, Qt::Key_5}, StillOpen, -1, ""},
+                       {plain, {page, page, enter}, yes, 0, "next+next-next+next-"},
+                       {multiple, {down, enter}, StillOpen, 1, ""},
+                       {multiple, {enter, page}, yes, 0, "next+next-"},
+                       {multiple, {enter, cancel}, no, -1, "cancel+cancel-"},
+                       {withOk, {page}, yes, -1, "ok+ok-"},
+                       {otherKeys, {Qt::Key_Context1}, no, -1, "cancel+cancel-"},
+                       {otherKeys, {page, cancel, Qt::Key_Context2, enter}, yes, 4, "next+next-"}};
+        for (const auto &ending : endings) {
+            FilledPopup popup(m_screen.get());
+            ending.prepare(popup);
+            QString looks;
+            const auto listen = [&](ImageButton *button, const QString &name) {
+                connect(button, &ImageButton::isHover, &popup,
+                        [&, name](bool on) { looks += name + (on ? '+' : '-'); });
+            };
+            listen(popup.nextButton(), "next");
+            listen(popup.okButton(), "ok");
+            listen(popup.cancelButton(), "cancel");
+            const int result = runBox(popup, [&] {
+                QVERIFY(!theCore->soundManager()->isEnabledKeytone());
+                clickAll(ending.keys);
+            });
+            QCOMPARE(result, ending.result);
+            QCOMPARE(popup.selectedIdx(), ending.idx);
+            QCOMPARE(looks, ending.looks);
+            QVERIFY(theCore->soundManager()->isEnabledKeytone());
+            QVERIFY(screenHasKeys());
+        }
     }
 
     void aKeyHeldBeforeDoesNotEndIt()
@@ -118,21 +100,13 @@ private slots:
     void theBroadcastEndsIt()
     {
         FilledPopup popup(m_screen.get());
-        popup.setMultipleCheck(true);
         const int result = runBox(popup, [&] {
-            click(Qt::Key_Return);
             broadcast("closeSomethingElse()");
             QVERIFY(popup.isVisible());
             broadcast("closeSelectPopup()");
         });
         QCOMPARE(result, int(QDialog::Rejected));
-        QCOMPARE(popup.selectedIdx(), 0);
-    }
-
-    void theBroadcastWinsOverTheClick()
-    {
-        FilledPopup popup(m_screen.get());
-        // The list tells of the key before it tells of the click.
+        // It wins over the click: the list tells of the key before it tells of the click.
         connect(popup.listView(), &ListView::keyPressed, this, [] { broadcast("closeSelectPopup()"); });
         QCOMPARE(runBox(popup, [] { click(Qt::Key_Return); }), int(QDialog::Rejected));
         QCOMPARE(popup.selectedIdx(), -1);
@@ -151,26 +125,6 @@ private slots:
         });
         QCOMPARE(result, int(QDialog::Accepted));
         QCOMPARE(popup.selectedIdx(), 1);
-    }
-
-    void closedInAnyOrder()
-    {
-        for (const bool lowerFirst : {false, true}) {
-            FilledPopup lower(m_screen.get());
-            int upperResult = StillOpen;
-            const int lowerResult = runBox(lower, [&] {
-                FilledPopup upper(&lower);
-                upperResult = runBox(upper, [&] {
-                    if (lowerFirst)
-                        lower.close();
-                    upper.close();
-                });
-                lower.close();
-            });
-            QCOMPARE(upperResult, int(QDialog::Rejected));
-            QCOMPARE(lowerResult, int(QDialog::Rejected));
-            QVERIFY(screenHasKeys());
-        }
     }
 
     void deletedWhileShown()
@@ -200,18 +154,13 @@ private slots:
         }
     }
 
-    void leavesInEveryWay()
+    void slidesAwayInEveryWay()
     {
         const std::function<void(SelectPopup &)> ends[]
             = {[](SelectPopup &popup) { popup.accept(); }, [](SelectPopup &popup) { popup.reject(); },
                [](SelectPopup &popup) { popup.close(); }, [](SelectPopup &popup) { popup.hide(); }};
         for (int i = 0; i < 4; ++i) {
-            FilledPopup fast(m_screen.get()), sliding(m_screen.get(), 6, true);
-            fast.setUseFastClose(true);
-            QCOMPARE(runBox(fast, [&] { ends[i](fast); }), i == 0 ? 1 : 0);
-            QCOMPARE(fast.pos(), QPoint(384, 0));
-            QVERIFY(!fast.isVisible());
-
+            FilledPopup sliding(m_screen.get(), 6, true);
             bool slid = false;
             const int result = runBox(sliding, [&] {
                 ends[i](sliding);
@@ -227,8 +176,8 @@ private slots:
     void theGridTurnsItsPages()
     {
         GridSelectPopup popup(m_screen.get(), 0);
-        for (int i = 0; i < 14; ++i)
-            popup.addGridViewItem(QString::number(i));
+        for (const QChar sign : QString(".,?!@#&%*()/:;"))
+            popup.addGridViewItem(sign);
         const int result = runBox(popup, [&] {
             clickAll({Qt::Key_Down, Qt::Key_Context3});
             QCOMPARE(popup.gridView()->currentPage(), 2);
@@ -236,18 +185,46 @@ private slots:
         });
         QCOMPARE(result, int(QDialog::Accepted));
         QCOMPARE(popup.selectedIdx(), 13);
+    }
 
-        // Left out of the grid gives the choice up, for an owner that wants it.
-        popup.gridView()->setUseNaviKeyReject(true);
-        popup.gridView()->setCurrentIndex(0);
-        QCOMPARE(runBox(popup, [] { click(Qt::Key_Left); }), int(QDialog::Rejected));
+    void pictures()
+    {
+        FilledPopup popup(m_screen.get(), 9);
+        popup.listView()->item(4)->setItemSelectEnable(false);
+        popup.listView()->setSelectedIdx(5);
+        shoot(popup, "popup-rows", {360, 55});
+        popup.setContentsTitle("Bell");
+        popup.setContentsTitlePos(18, -8);
+        popup.listView()->setGeometry(5, 38, 183, 92);
+        popup.listView()->setPageCount(3);
+        shoot(popup, "popup-titled", {360, 110});
+        popup.listView()->itemClear();
+        popup.listView()->setShowEmptyString(true);
+        shoot(popup, "popup-empty", {});
+        popup.setMultipleCheck(true);
+        popup.nextButton()->setText("Done");
+        for (int i = 0; i < 5; ++i)
+            popup.listView()->addItem(new ListViewCheckItem(QString("Group %1").arg(i), i % 2));
+        popup.listView()->setStartIdx(0);
+        popup.listView()->setSelectedIdx(0);
+        shoot(popup, "popup-checks", {300, 50});
+        GridSelectPopup grid(m_screen.get(), 0);
+        for (const QChar sign : QString(".,?!@#&%*()/:;"))
+            grid.addGridViewItem(sign);
+        shoot(grid, "popup-grid", {200, 20});
     }
 
 private:
-    bool screenHasKeys() const
+    /// The popup as it comes, and with Enter held: then this pixel of its selection is black.
+    static void shoot(SelectPopupBase &popup, const QString &name, QPoint ofSelection)
     {
-        // Windows come active once the present event is done.
-        return QTest::qWaitFor([&] { return m_screen->list->hasFocus(); });
+        QVERIFY(showAndActivate(&popup));
+        TestScreen::shot(name);
+        press(Qt::Key_Return);
+        TestScreen::shot(name + "-pressed");
+        if (!ofSelection.isNull())
+            QCOMPARE(TestScreen::picture().pixelColor(ofSelection), QColor(Qt::black));
+        popup.hide();
     }
 };
 

@@ -5,153 +5,102 @@
 
 using namespace PhoneKeys;
 
-struct KeyCase
-{
-    bool ignoreKey;
-    QString keys; ///< presses and releases
-    bool stays;
-};
-Q_DECLARE_METATYPE(KeyCase)
-
-struct TimeCase
-{
-    int first;
-    QList<int> later; ///< times that are set, Words for a message
-    int runs; ///< ms, -1 for a time that does not run
-};
-Q_DECLARE_METATYPE(TimeCase)
-
-constexpr int Forever = 0, Words = 1;
-
-using Act = void (*)(Toast *, KeyScreen &);
-Q_DECLARE_METATYPE(Act)
+constexpr int Forever = 0;
 
 class ToastTest : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void isSmallOverANarrowParent()
-    {
-        QWidget narrow;
-        narrow.resize(383, 134);
-        QVERIFY(Toast("Words", Forever, &narrow).resized());
-        QVERIFY(!IdleToast("Words", Forever, m_screen.get()).resized());
-    }
-
-    void keysEndIt_data()
-    {
-        addCases<KeyCase>({{"a key", {false, "+-", false}},
-                           {"a press alone", {false, "+", true}},
-                           {"the release of a key held before", {false, "-", true}},
-                           {"a key after a stray release", {false, "-+-", false}},
-                           {"keys that are ignored", {true, "+-+-", true}}});
-    }
-
     void keysEndIt()
     {
-        QFETCH(KeyCase, c);
-        Toast toast("Words", Forever, m_screen.get());
-        toast.setIgnoreKey(c.ignoreKey);
-        QSignalSpy ended(&toast, &Toast::toastTimeout), clicked(m_screen->bar(), &Tail::clicked);
-        const bool stayed = run(toast, [&] {
-            for (const QChar key : qAsConst(c.keys))
-                key == '+' ? press(Qt::Key_Context1) : release(Qt::Key_Context1);
-        });
-        QCOMPARE(stayed, c.stays);
-        QCOMPARE(ended.size(), c.stays ? 0 : 1);
-        QVERIFY2(clicked.isEmpty(), "the screen heard the key");
-        click(Qt::Key_Context1);
-        QVERIFY2(!clicked.isEmpty(), "the screen has no keys");
-    }
-
-    void endsByItsTime()
-    {
-        Toast toast("Words", 10, m_screen.get());
-        QSignalSpy ended(&toast, &Toast::toastTimeout);
-        QCOMPARE(toast.exec(), 0);
-        QVERIFY(!toast.isVisible() && ended.size() == 1);
-    }
-
-    void timesBeginAnew_data()
-    {
-        addCases<TimeCase>({{"from construction", {9000, {}, 9000}},
-                            {"without a time", {0, {Words}, -1}},
-                            {"stopped", {9000, {0}, -1}},
-                            {"a message starts a stopped one", {9000, {0, Words}, 9000}},
-                            {"another time", {9000, {5000}, 5000}},
-                            {"the other time is the message's too", {9000, {5000, -1, Words}, 5000}},
-                            {"a first time later", {0, {5000}, 5000}},
-                            {"which is not the message's", {-1, {5000, -1, Words}, -1}}});
+        const struct
+        {
+            bool ignoreKey;
+            QString keys; // presses and releases
+            bool stays;
+        } cases[] = {{false, "+-", false},
+                     {false, "+", true},
+                     {false, "-", true}, // of a key held before
+                     {false, "-+-", false},
+                     {true, "+-+-", true}};
+        for (const auto &c : cases) {
+            Toast toast("Words", Forever, m_screen.get());
+            toast.setIgnoreKey(c.ignoreKey);
+            QSignalSpy ended(&toast, &Toast::toastTimeout), clicked(screen()->bar(), &Tail::clicked);
+            const bool stayed = run(toast, [&] {
+                for (const QChar key : c.keys)
+                    key == '+' ? press(Qt::Key_Context1) : release(Qt::Key_Context1);
+            });
+            QCOMPARE(stayed, c.stays);
+            QCOMPARE(ended.size(), c.stays ? 0 : 1);
+            QVERIFY2(clicked.isEmpty(), "the screen heard the key");
+            click(Qt::Key_Context1);
+            QVERIFY2(!clicked.isEmpty(), "the screen has no keys");
+            if (c.keys == "+-") // a key seen once counts for ever
+                QVERIFY(!run(toast, [] { release(Qt::Key_Return); }));
+        }
     }
 
     void timesBeginAnew()
     {
-        QFETCH(TimeCase, c);
-        Toast toast("Words", c.first, m_screen.get());
-        for (const int time : qAsConst(c.later))
-            time == Words ? toast.setMessage("Other words") : toast.setTimeout(time);
-        const auto *timer = toast.findChild<QTimer *>();
-        QCOMPARE(timer && timer->isActive() ? timer->interval() : -1, c.runs);
+        Toast toast("Words", 9000, m_screen.get()), later("Words", -1, m_screen.get());
+        const auto runs = [](Toast &one) {
+            const auto *timer = one.findChild<QTimer *>();
+            return timer && timer->isActive() ? timer->interval() : -1;
+        };
+        QCOMPARE(runs(toast), 9000);
+        for (const int time : {0, 9000, 5000}) {
+            toast.setTimeout(time);
+            QCOMPARE(runs(toast), time ? time : -1);
+            toast.setMessage("Other words"); // which also starts one that was stopped
+            QCOMPARE(runs(toast), time ? time : 9000);
+        }
+        later.setTimeout(5000);
+        QCOMPARE(runs(later), 5000);
+        later.setTimeout(-1);
+        later.setMessage("Other words"); // a first time that comes later is not the message's
+        QCOMPARE(runs(later), -1);
     }
 
     void letsKeysThrough()
     {
         ToastWithOutKeyEvent plain("Words", Forever, m_screen.get());
         ToastWaitWithOutKeyEvent wait("Words", Forever, m_screen.get());
-        QSignalSpy clicked(m_screen->bar(), &Tail::clicked);
+        QSignalSpy clicked(screen()->bar(), &Tail::clicked), escaped(&wait, &ToastWaitWithOutKeyEvent::escaped);
         for (Toast *toast : {static_cast<Toast *>(&plain), static_cast<Toast *>(&wait)}) {
             clicked.clear();
-            QVERIFY(run(*toast, [] { click(Qt::Key_Context2); }));
+            QVERIFY(run(*toast, [] { clickAll({Qt::Key_Context2, Qt::Key_Return}); }));
             QCOMPARE(clicked.size(), 1);
         }
         // Escape is the wait's own.
-        QSignalSpy escaped(&wait, &ToastWaitWithOutKeyEvent::escaped);
-        const bool stayed = run(wait, [&] {
-            click(Qt::Key_Return);
-            QVERIFY(escaped.isEmpty());
-            click(Qt::Key_Escape);
-        });
-        QVERIFY(stayed);
+        QVERIFY(escaped.isEmpty() && run(wait, [] { click(Qt::Key_Escape); }));
         QCOMPARE(escaped.size(), 1);
         QVERIFY2(m_screen->isVisible(), "the key closed the screen");
     }
 
-    void goneFromOutside_data()
-    {
-        const auto deletedByItsSignal = [](Toast *toast, KeyScreen &) {
-            connect(toast, &Toast::toastTimeout, toast, [toast] { delete toast; });
-            click(Qt::Key_Return);
-        };
-        addCases<Act>({{"hidden", [](Toast *toast, KeyScreen &) { toast->hide(); }},
-                       {"closed", [](Toast *toast, KeyScreen &) { toast->close(); }},
-                       {"its screen closed", [](Toast *, KeyScreen &screen) { screen.close(); }},
-                       {"deleted", [](Toast *toast, KeyScreen &) { delete toast; }},
-                       {"deleted by its signal", deletedByItsSignal}});
-    }
-
     void goneFromOutside()
     {
-        QFETCH(Act, c);
-        const QPointer<Toast> toast = new Toast("Words", Forever, m_screen.get());
-        QTimer::singleShot(0, m_screen.get(), [&] { c(toast, *m_screen); });
-        QCOMPARE(toast->exec(), 0);
-        QVERIFY(!toast || !toast->isVisible());
-        delete toast;
-    }
-
-    void aKeySeenOnceCountsForEver()
-    {
-        Toast toast("Words", Forever, m_screen.get());
-        toast.setPreviousActiveWidget(m_screen->list);
-        QVERIFY(!toast.previousActiveWidget()); // nor does it ever take a widget
-        QVERIFY(!run(toast, [] { click(Qt::Key_Return); }));
-        QVERIFY(!run(toast, [] { release(Qt::Key_Return); }));
+        const std::function<void(Toast *)> ends[]
+            = {[](Toast *toast) { toast->hide(); }, [](Toast *toast) { toast->close(); },
+               [](Toast *toast) { delete toast; },
+               [](Toast *toast) {
+                   connect(toast, &Toast::toastTimeout, toast, [toast] { delete toast; });
+                   click(Qt::Key_Return);
+               },
+               [this](Toast *) { m_screen->close(); }};
+        for (const auto &end : ends) {
+            const QPointer<Toast> toast = new Toast("Words", Forever, m_screen.get());
+            QTimer::singleShot(0, m_screen.get(), [&] { end(toast); });
+            QCOMPARE(toast->exec(), 0);
+            QVERIFY(!toast || !toast->isVisible());
+            delete toast;
+        }
     }
 
     void theWaitTurns()
     {
-        ToastWait toast("Words", Forever, m_screen.get());
+        ToastWait toast("Connecting...", Forever, m_screen.get());
         const auto look = [&] { return toast.grab().toImage().copy(170, 10, 44, 50); };
         QList<QImage> seen;
         for (int i = 0; i < 8; ++i) {
@@ -162,7 +111,41 @@ private slots:
         QCOMPARE(look(), seen.first());
         // It turns by itself.
         toast.show();
+        TestScreen::shot("wait-panel");
         QTRY_VERIFY(look() != seen.first());
+        toast.setUseFullScreen(false);
+        TestScreen::shot("wait-box");
+    }
+
+    void pictures()
+    {
+        QWidget narrow;
+        narrow.resize(383, 134);
+        QVERIFY(Toast("Words", Forever, &narrow).resized());
+        QVERIFY(!IdleToast("Words", Forever, m_screen.get()).resized());
+        const QString longText("A notice that is by far too long for the one line that the panel has for it");
+        const struct
+        {
+            QString name, text, icon;
+            bool box, narrow;
+            int frame; // a column of it
+        } looks[] = {{"plain", "The keyword is too short", "", false, false, 5},
+                     {"lines", "Number is full\nDelete other Number First", "error_emoti", false, false, 5},
+                     {"long", longText, "confirm", false, false, 5},
+                     {"narrow", "Deleted", "delete", false, true, 3},
+                     {"box", "Saved", "", true, false, 105},
+                     {"box-icon", longText.left(60), "delete", true, false, 29}};
+        for (const auto &look : looks) {
+            Toast toast(look.text, Forever, m_screen.get());
+            toast.setUseFullScreen(!look.box);
+            toast.setResized(look.narrow);
+            if (!look.icon.isEmpty())
+                toast.setIcon(QPixmap(QString(":ui/images/widget/%1.png").arg(look.icon)));
+            toast.show();
+            QCoreApplication::processEvents();
+            TestScreen::shot("toast-" + look.name);
+            QCOMPARE(TestScreen::picture().pixelColor(look.frame, 80), QColor(Qt::black));
+        }
     }
 
 private:
