@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Messages and program keys on a running phone; what was kept is there after the next start.
+. "$(dirname "$0")/support.sh"
+
+cd "$work"
+phoneui --empty --no-peers --platform offscreen --script "$here/neighbours.keys"
+[ "$(find "$PHONE_HOME/ringtones/basicring" -name '*.wav' -size +30k | wc -l)" -eq 7 ] || fail "the ring tones"
+
+start_phone --no-peers
+phonectl launch message
+phonectl expect rows 5552
+phonectl key Esc
+phonectl launch aom
+phonectl expect rows "Anna Adams"
+phonectl key Soft3
+phonectl expect title "Key Module"
+stop_phone
