@@ -9,12 +9,12 @@ namespace DisplaySetup {
 
 constexpr QSize Size(384, 160);
 
-/// Before QApplication: sets the resolution and the event dispatcher, and the offscreen platform unless `platform` or the environment names
-/// another.
+/// Before QApplication: sets the resolution and the event dispatcher, and the offscreen platform unless `platform`
+/// or the environment names another.
 void prepareEnvironment(const QString &platform = QString());
 
-/// After QApplication: brings in the shared pictures and the texts, maps the phone's font family to the installed ones and takes
-/// the desktop's habits away (quitting with the last window, a blinking cursor, animated effects).
+/// After QApplication: brings in the shared pictures and the texts, maps the phone's font family to the installed
+/// ones and takes the desktop's habits away (quitting with the last window, a blinking cursor, animated effects).
 void prepareApplication();
 
 }

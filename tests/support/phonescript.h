@@ -29,8 +29,8 @@ public:
     /// Waits for a toast, reads what it says, sends it away with a key and waits until it is gone.
     PhoneScript &dismissToast(QString *message = nullptr);
 
-    /// Runs all steps, one every `pace` milliseconds, and returns when they are done; the reason of a failure, or an
-    /// empty text.
+    /// Runs all steps, one every `pace` milliseconds, and returns when they are done; the reason of a failure, or
+    /// an empty text.
     QString run(int pace = 4);
 
 private:
