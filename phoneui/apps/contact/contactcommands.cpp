@@ -16,7 +16,6 @@
 #include "screenwatch.h"
 #include "searchall.h"
 #include "tail.h"
-#include "wpsmcontactmanager.h"
 
 #include <QDebug>
 #include <QKeyEvent>
@@ -171,9 +170,7 @@ void Contact::clickedFuncKeyEvent(int idx)
     auto *cell = dynamic_cast<ListViewContactGridItem *>(m_listView->item(idx));
     if (!cell)
         return;
-    const ContactData contact = cell->getContactType() == ContactData::LocalContact
-        ? theCore->contactManager()->getSpecificContactDetail(cell->getId())
-        : theCore->wpsmContactManager()->getSpecificContactDetail(cell->getId());
+    const ContactData contact = MergedContacts::read(cell->getId(), cell->getContactType());
     if (Neighbours::isInCall())
         return;
     Neighbours::leaveAndDial(this, contact.telnum1, contact.name);

@@ -1,5 +1,9 @@
 #include "mergedcontacts.h"
 
+#include "contactmanager.h"
+#include "core.h"
+#include "wpsmcontactmanager.h"
+
 #include <algorithm>
 
 namespace {
@@ -54,4 +58,10 @@ MergedContacts::MergedContacts(const QList<ContactData> &local, const QList<Cont
         std::stable_sort(m_order.begin(), m_order.end(), precedes);
         reverseWithinNames(m_order);
     }
+}
+
+ContactData MergedContacts::read(int id, int type)
+{
+    return type == ContactData::LocalContact ? theCore->contactManager()->getSpecificContactDetail(id)
+                                             : theCore->wpsmContactManager()->getSpecificContactDetail(id);
 }

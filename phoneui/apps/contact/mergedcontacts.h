@@ -16,6 +16,9 @@ public:
     MergedContacts() = default;
     MergedContacts(const QList<ContactData> &local, const QList<ContactData> &mobile);
 
+    /// The contact as the store of its type (ContactData::Contact_Type) has it.
+    static ContactData read(int id, int type);
+
     bool isEmpty() const { return m_order.isEmpty(); }
     int size() const { return m_order.size(); }
     const ContactData &at(int idx) const { return *m_order.at(idx); }

@@ -6,6 +6,7 @@
 #include "groupnames.h"
 #include "listview.h"
 #include "listviewcontactitem.h"
+#include "mergedcontacts.h"
 #include "messagebox.h"
 #include "neighbours.h"
 #include "notices.h"
@@ -18,7 +19,6 @@
 #include "settingsfile.h"
 #include "status.h"
 #include "tail.h"
-#include "wpsmcontactmanager.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -80,12 +80,6 @@ void DetailsDial::setupListView()
     m_listView->setFocus(Qt::OtherFocusReason);
 }
 
-ContactData DetailsDial::readContact(int id) const
-{
-    return m_contactType == ContactData::LocalContact ? theCore->contactManager()->getSpecificContactDetail(id)
-                                                      : theCore->wpsmContactManager()->getSpecificContactDetail(id);
-}
-
 ListViewContactItem *DetailsDial::addRow(const QString &label, const QString &text, const QString &picture)
 {
     auto *row = new ListViewContactItem(text, label);
@@ -99,7 +93,7 @@ void DetailsDial::setupListViewItems(int id)
     stopTimer();
     m_flowItemIdx = -1;
     m_listView->itemClear();
-    const ContactData contact = readContact(id);
+    const ContactData contact = MergedContacts::read(id, m_contactType);
     m_contactName = contact.name;
     const QString plainPicture = numberPicture(ContactData::Etc);
 

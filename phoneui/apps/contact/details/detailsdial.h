@@ -60,7 +60,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    ContactData readContact(int id) const;
     ListViewContactItem *addRow(const QString &label, const QString &text, const QString &picture);
     bool isNumberRow(int idx) const;
     void callAndLeave(const QString &number, const QString &name);
