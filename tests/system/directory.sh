@@ -74,7 +74,7 @@ for fault in cut empty huge drip; do
     serve http python3 "$here/evilserver.py" $fault
     nothing_comes $((++fetches))
 done
-for reason in 'Connection closed' 'it is empty' 'it is longer than 1000000 bytes' 'it takes too long'; do
+for reason in 'it is cut off' 'it is empty' 'it is longer than 1000000 bytes' 'it takes too long'; do
     grep -q "The fetch of .*$reason" "$work/log" || fail "the log tells nothing of: $reason"
 done
 printf '[Prov]\nPassword=secret\n' >"$PHONE_HOME/config/secret.ini"

@@ -15,7 +15,8 @@ finish() {
 trap finish EXIT
 
 fail() {
-    printf 'FAILED: %s\n' "$1" >&2
+    printf 'FAILED: %s; the end of the log:\n' "$1" >&2
+    tail -n 20 "$work/log" >&2 || true
     exit 1
 }
 

@@ -134,6 +134,10 @@ QString Fetch::fault() const
         return QStringLiteral("its certificate is refused: %1").arg(m_certificateFault);
     if (answer != 0 && (answer < 200 || answer >= 300))
         return QStringLiteral("it answers %1").arg(answer);
+    // Qt reports a body that ends early as an error or not at all: it depends on what arrives together.
+    const qint64 length = announced(*m_reply);
+    if (m_reply->error() == QNetworkReply::RemoteHostClosedError || (length >= 0 && length != m_body.size()))
+        return QStringLiteral("it is cut off");
     if (m_reply->error() != QNetworkReply::NoError)
         return m_reply->errorString();
     const QByteArray encoding = m_reply->rawHeader("Content-Encoding").toLower();
@@ -141,8 +145,6 @@ QString Fetch::fault() const
         return QStringLiteral("it is packed");
     if (m_body.isEmpty())
         return QStringLiteral("it is empty");
-    if (announced(*m_reply) >= 0 && announced(*m_reply) != m_body.size())
-        return QStringLiteral("it is cut off");
     return QString();
 }
 
