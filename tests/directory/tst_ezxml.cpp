@@ -1,6 +1,7 @@
 #include "ezxml.h"
 #include "testcase.h"
 
+#include <QRandomGenerator>
 #include <QTemporaryFile>
 
 #include <fcntl.h>
@@ -36,6 +37,34 @@ static QByteArray dump(const ezxml *element)
     for (const ezxml *child = element->child; child; child = child->ordered)
         text += '{' + QByteArray::number(qulonglong(child->off)) + ':' + dump(child) + '}';
     return text;
+}
+
+/// For each element in document order the names and texts of its parent and of those that its lists lead to.
+static QByteArray links(const ezxml *element)
+{
+    QByteArray text;
+    for (const ezxml *other : {element->parent, element->next, element->sibling})
+        text.append(other ? other->name : "-").append(' ').append(other ? other->txt : "");
+    for (const ezxml *child = element->child; child; child = child->ordered)
+        text += links(child);
+    return text;
+}
+
+/// An item as programs write it, mostly like the others, sometimes not.
+static QByteArray nearlyAlike(QRandomGenerator *random)
+{
+    const auto often = [random](const char *usual, const QByteArrayList &others) {
+        return random->bounded(20) ? QByteArray(usual) : others[random->bounded(others.size())];
+    };
+    const QByteArray number = QByteArray::number(random->bounded(1000));
+    QByteArray text = often("\n <item id=\"", {"<item  id=\"", "\n <item id='1' x=\"", "<item2 id=\""}) + number;
+    text += often("\" k=\"v\">", {"&amp;\" k=\"v\">", "\">", "\"/>", "\r\n\">", "\""});
+    for (int i = 1 + random->bounded(20) / 19; i >= 0; --i) {
+        text += often("\n  <a>", {"<a>", "\r\n<a>", "\n  <!-- c --><a>", "x<a>", "&#10;<a b=\"\">"}) + number;
+        text += often("</a>", {"&lt;\r\n&gt;</a>", "<![CDATA[]]></a>", "&none;</a>", "</a >", "</b>"});
+        text += often("<b></b>", {"<b/>", "", "<b>&amp;</b>", "<b>\r</b>", "</b>"});
+    }
+    return text + often("\n </item>", {"\n</item>", "</item>", "\r</item>", "</item2>"});
 }
 
 static QByteArray items(int count)
@@ -189,6 +218,25 @@ private slots:
         QCOMPARE(instructions[2], nullptr);
         QCOMPARE(ezxml_pi(b, "q")[0], "");
         QCOMPARE(ezxml_pi(b, "none")[0], nullptr);
+    }
+
+    /// Elements like one before them are read at once, except behind a document type: the tree is the same.
+    void alike()
+    {
+        QRandomGenerator random(1);
+        int whole = 0;
+        for (int round = 0; round < 3000; ++round) {
+            QByteArray document = "<r>";
+            for (int i = random.bounded(20); i >= 0; --i)
+                document += nearlyAlike(&random);
+            document += "</r>";
+            const Tree atOnce(document), each("<!DOCTYPE r>" + document);
+            whole += atOnce.error().isEmpty();
+            QCOMPARE(atOnce.error(), each.error());
+            QCOMPARE(dump(atOnce.root()), dump(each.root()));
+            QCOMPARE(links(atOnce.root()), links(each.root()));
+        }
+        QVERIFY(whole > 300 && whole < 2700);
     }
 
     /// Cut anywhere, a document yields what came before.

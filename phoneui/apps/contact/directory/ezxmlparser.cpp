@@ -1,7 +1,7 @@
 #include "ezxmldocument.h"
 #include "ezxmlinstructions.h"
-#include "ezxmlleaf.h"
 #include "ezxmlnames.h"
+#include "ezxmlshape.h"
 #include "ezxmltext.h"
 
 #include <algorithm>
@@ -35,8 +35,6 @@ public:
     void parse();
 
 private:
-    static const std::size_t s_shortRun = 16;
-
     /// An element that is not closed yet.
     struct Open
     {
@@ -61,10 +59,11 @@ private:
     char *readAttribute(char *at, const EzxmlName &tag);
     char *readCloseTag(char *at);
     char *readText(char *at);
-    /// Elements that come as they came before; what else comes is left.
-    char *readLeaves(char *at);
-    void learnLeaf(const EzxmlName &tag);
-    EzxmlLeaf *leafBehind(const EzxmlName &tag);
+    /// The whole of an element that is like one before it, from behind its name on; null for another, which is
+    /// left.
+    char *readAlike(char *at, const EzxmlName &tag);
+    /// Made when an element of this name comes again; null for one whose shape is not expected.
+    EzxmlShape *shapeOf(const EzxmlName &tag);
     /// The text behind an open tag; most elements hold nothing else and are closed here.
     char *readFirstText(char *at, ezxml *element, const EzxmlName &tag);
     char *readCharacterData(char *at);
@@ -74,6 +73,8 @@ private:
 
     ezxml *newElement(const EzxmlName &tag);
     ezxml *newChild(const EzxmlName &tag);
+    /// As the last child of the open element.
+    void append(ezxml *element, const EzxmlName &tag);
     char *readOpened(char *at, ezxml *element, const EzxmlName &tag);
     void setText(ezxml *element, char *text);
     char **attributeList();
@@ -82,12 +83,6 @@ private:
     void addRun(char *text, std::size_t length);
     /// The runs from the first to the top as one text.
     char *joined(const Open &open);
-    bool isJoined(const Run *run, const Run &text) const;
-    /// Most are a line feed and spaces: with a copy of fixed size they need no loop.
-    bool isShort(const Run &run) const
-    {
-        return run.length <= s_shortRun && distance(m_root->s, run.text) < m_reachable;
-    }
     /// False after a fault.
     bool decode(char **text, std::size_t *length, EzxmlEntities::Kind kind);
     void finish();
@@ -104,9 +99,9 @@ private:
     ezxml_root *m_root;
     char *m_end;
     const char *m_lastReach = nullptr; ///< the last place from which EzxmlText::reach bytes can be read
-    std::size_t m_reachable = 0; ///< from so many places, which come first
     char m_last = '\0';
     bool m_hasRoot = false;
+    bool m_hasDoctype = false;
     EzxmlMemory &m_memory;
     EzxmlDoctype &m_doctype;
     EzxmlEntities m_entities;
@@ -114,12 +109,10 @@ private:
     EzxmlStack<Open> m_open;
     EzxmlNames m_names;
     EzxmlStack<Run> m_runs; ///< the texts of the open elements, one element's behind the other's
-    Run m_lastJoined[EzxmlName::hashes] = {}; ///< the last joined text of an element, by a hash of its name
     EzxmlStack<char *> m_attributes; ///< names and values of the tag that is read
-    char *m_gap = nullptr; ///< where the last tag or the like ended
-    EzxmlLeaf m_leaves[EzxmlName::hashes]; ///< what came behind a tag the last time, by a hash of its name
-    EzxmlLeaf m_nothing;
-    EzxmlLeaf *m_expected = &m_nothing;
+    // By a hash of the element's name: its shape, and the last that was read on its own.
+    EzxmlShape *m_shapes[EzxmlName::hashes] = {};
+    const ezxml *m_examples[EzxmlName::hashes] = {};
     std::ptrdiff_t m_lostLines = 0; ///< line feeds that a NUL has replaced
 };
 
@@ -134,13 +127,11 @@ EzxmlParser::EzxmlParser(ezxml_root *root, char *text, std::size_t length)
         m_last = *m_end;
         *m_end = '\0';
     }
-    m_memory.expect(length * s_recordBytes);
+    m_memory.expect(length * s_recordBytes + 2 * sizeof(EzxmlShape));
     root->s = text;
     root->e = m_end;
-    if (distance(text, m_end) >= reach) {
+    if (distance(text, m_end) >= reach)
         m_lastReach = m_end - reach;
-        m_reachable = distance(text, m_lastReach) + 1;
-    }
     m_entities.setLastReach(m_lastReach);
 }
 
@@ -150,9 +141,6 @@ void EzxmlParser::parse()
     while (at && at < m_end) {
         *at = '\0'; // ends the text before it
         at = readMarkup(at + 1);
-        if (at)
-            at = readLeaves(at);
-        m_gap = at;
         if (at && *at != '<')
             at = readText(at);
     }
@@ -182,6 +170,8 @@ char *EzxmlParser::readOpenTag(char *at)
     const EzxmlName tag(at, distance(at, nameEnd), m_end);
     m_attributes.truncate(0);
     at = nameEnd;
+    if (char *behind = readAlike(at, tag))
+        return behind;
     if (*at != '>') {
         m_lostLines += *at == '\n';
         at = readAttributes(at, tag);
@@ -316,7 +306,6 @@ char *EzxmlParser::readFirstText(char *at, ezxml *element, const EzxmlName &tag)
                 *mark = '\0';
                 element->txt = at;
             }
-            learnLeaf(tag);
             return behind(closing);
         }
     }
@@ -326,56 +315,30 @@ char *EzxmlParser::readFirstText(char *at, ezxml *element, const EzxmlName &tag)
 [[gnu::always_inline]] inline char *EzxmlParser::readOpened(char *at, ezxml *element, const EzxmlName &tag)
 {
     *m_open.push() = {element, tag, nullptr, m_names.open(), m_runs.size(), 0};
-    m_expected = leafBehind(tag);
     return at;
 }
 
-void EzxmlParser::learnLeaf(const EzxmlName &tag)
+char *EzxmlParser::readAlike(char *at, const EzxmlName &tag)
 {
-    if (m_open.isEmpty() || !m_doctype.isEmpty())
-        return;
-    EzxmlLeaf *next = leafBehind(tag);
-    m_expected->learn(m_gap, tag, next);
-    m_expected = next;
+    EzxmlShape *shape = m_open.isEmpty() ? nullptr : shapeOf(tag);
+    at = shape ? shape->match(at, m_lastReach, m_end) : nullptr;
+    if (at)
+        append(shape->build(&m_memory, &m_entities), tag);
+    return at;
 }
 
-inline EzxmlLeaf *EzxmlParser::leafBehind(const EzxmlName &tag)
+EzxmlShape *EzxmlParser::shapeOf(const EzxmlName &tag)
 {
-    return &m_leaves[tag.hash()];
-}
-
-char *EzxmlParser::readLeaves(char *at)
-{
-    while (at <= m_lastReach && m_expected->matches(at)) {
-        const EzxmlLeaf &leaf = *m_expected;
-        char *text = at + leaf.prefixLength();
-        char *mark = findContentMark(text, m_lastReach, m_end);
-        const bool isPlain = *mark == '<';
-        if (!isPlain)
-            mark = find(mark, m_end, '<');
-        if (!mark || mark > m_lastReach || !leaf.closes(mark))
-            return at;
-
-        addRun(at, leaf.space());
-        char *name = at + leaf.space() + 1;
-        const EzxmlName tag = leaf.nameAt(name);
-        ezxml *element = newChild(tag);
-        at = mark + leaf.closingLength();
-        m_expected = leaf.next();
-        // Not before what lies around them is copied: a load of more than was just stored has to wait.
-        name[-1] = name[tag.length] = *mark = '\0';
-        if (isPlain) {
-            if (mark > text)
-                element->txt = text;
-        } else {
-            std::size_t length = distance(text, mark);
-            if (!decode(&text, &length, EzxmlEntities::Content))
-                return nullptr;
-            if (length > 0)
-                setText(element, text);
-        }
+    const ezxml *&example = m_examples[tag.hash()];
+    EzxmlShape *&shape = m_shapes[tag.hash()];
+    if (example) {
+        if (!shape)
+            shape = new (m_memory.allocate(sizeof(EzxmlShape))) EzxmlShape;
+        if (shape->isTeachable())
+            shape->learn(example);
+        example = nullptr;
     }
-    return at;
+    return shape && shape->isExpected() ? shape : nullptr;
 }
 
 inline void EzxmlParser::setText(ezxml *element, char *text)
@@ -419,6 +382,7 @@ char *EzxmlParser::readDoctype(char *at)
 {
     if (m_hasRoot)
         return fail(at, m_open.isEmpty() ? "markup outside of root element" : "unexpected <");
+    m_hasDoctype = true;
     while (at && at < m_end && *at != '[' && *at != '>') {
         const char c = *at++;
         if (c == '"' || c == '\'') {
@@ -455,6 +419,12 @@ ezxml *EzxmlParser::newElement(const EzxmlName &tag)
 {
     ezxml *element = m_memory.array<ezxml>(1);
     EzxmlDocument::clear(element);
+    append(element, tag);
+    return element;
+}
+
+[[gnu::always_inline]] inline void EzxmlParser::append(ezxml *element, const EzxmlName &tag)
+{
     element->name = const_cast<char *>(tag.text);
     Open &parent = m_open.top();
     element->parent = parent.element;
@@ -465,7 +435,6 @@ ezxml *EzxmlParser::newElement(const EzxmlName &tag)
         parent.element->child = element;
     parent.lastChild = element;
     m_names.append(&parent.names, tag, element);
-    return element;
 }
 
 char **EzxmlParser::attributeList()
@@ -483,7 +452,7 @@ char **EzxmlParser::attributeList()
 
 void EzxmlParser::close()
 {
-    const Open &open = m_open.top();
+    const Open open = m_open.top();
     const std::size_t runs = m_runs.size() - open.firstRun;
     if (runs == 1) {
         setText(open.element, m_runs.top().text);
@@ -494,8 +463,9 @@ void EzxmlParser::close()
     m_runs.truncate(open.firstRun);
     m_names.close(open.names);
     m_open.pop();
-    if (m_open.isEmpty())
-        m_expected = &m_nothing;
+    // Such documents are made by people: their attributes may have defaults, and their entities be long.
+    if (!m_hasDoctype)
+        m_examples[open.name.hash()] = open.element;
 }
 
 [[gnu::always_inline]] inline void EzxmlParser::addRun(char *text, std::size_t length)
@@ -508,33 +478,14 @@ void EzxmlParser::close()
 
 char *EzxmlParser::joined(const Open &open)
 {
-    const Run *run = &m_runs[open.firstRun];
-    // Elements of one name are mostly indented alike, and then share one text.
-    Run &last = m_lastJoined[open.name.hash()];
-    if (last.length == open.textLength && isJoined(run, last))
-        return last.text;
-    char *to = m_memory.array<char>(open.textLength + s_shortRun);
-    last = {to, open.textLength};
-    for (; run != m_runs.end(); ++run) {
-        if (isShort(*run))
-            std::memcpy(to, run->text, s_shortRun);
-        else
-            std::memcpy(to, run->text, run->length);
+    char *const text = m_memory.array<char>(open.textLength + 1);
+    char *to = text;
+    for (const Run *run = &m_runs[open.firstRun]; run != m_runs.end(); ++run) {
+        std::memcpy(to, run->text, run->length);
         to += run->length;
     }
     *to = '\0';
-    return last.text;
-}
-
-bool EzxmlParser::isJoined(const Run *run, const Run &text) const
-{
-    const char *at = text.text;
-    for (; run != m_runs.end(); ++run) {
-        if (isShort(*run) ? !sameShort(at, run->text, run->length) : std::memcmp(at, run->text, run->length) != 0)
-            return false;
-        at += run->length;
-    }
-    return true;
+    return text;
 }
 
 bool EzxmlParser::decode(char **text, std::size_t *length, EzxmlEntities::Kind kind)

@@ -125,27 +125,10 @@ inline __m128i within(__m128i bytes, char low, char high)
 }
 #endif
 
-/// The same for 1 to 16 bytes, of which 16 may be read.
-inline bool sameShort(const char *a, const char *b, std::size_t length)
+/// Whether the text up to `end` starts with these bytes.
+inline bool startsWith(const char *at, const char *end, const char *bytes, std::size_t length)
 {
-#ifdef __SSE2__
-    return (~bits(_mm_cmpeq_epi8(block(a), block(b))) & 0xffff) << (reach - length) == 0;
-#else
-    return std::memcmp(a, b, length) == 0;
-#endif
-}
-
-/// Whether two texts agree in their first `length` bytes, from 1 to 32, of which as many as `reach` may be read.
-inline bool same(const char *a, const char *b, std::size_t length)
-{
-#ifdef __SSE2__
-    unsigned different = ~bits(_mm_cmpeq_epi8(block(a), block(b))) & 0xffff;
-    if (length > blockSize)
-        different |= ~bits(_mm_cmpeq_epi8(block(a + blockSize), block(b + blockSize))) << blockSize;
-    return different << (reach - length) == 0;
-#else
-    return std::memcmp(a, b, length) == 0;
-#endif
+    return static_cast<std::size_t>(end - at) >= length && std::memcmp(at, bytes, length) == 0;
 }
 
 /// The first byte that is no NameChar.
