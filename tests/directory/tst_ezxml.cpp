@@ -113,6 +113,9 @@ private slots:
         row("behind a NUL", QByteArray("<a>1<b/>\0</a>", 13), "a'1'{1:b''}", "1]: unclosed tag <a>");
         row("cut in a text", "<a>\n<b>12</b><b>34", "a'\n'{1:b'12'}{1:b''}", "2]: unclosed tag <b>");
         row("wrong end", "<a\n><b></c></a>", "a''{0:b''}", "2]: unexpected closing tag </c>");
+        // The two names meet in one place of the tables.
+        row("end of a like name", "<a><value>&lt;</value><value>1</value><vue>2</value></a>",
+            "a''{0:value'<'}{0:value'1'}{0:vue'2'}", "1]: unexpected closing tag </value>");
         row("two roots", "<a/>\n<b/>", "a''", "2]: markup outside of root element");
         row("open quote", "<a b='1></a>", "''", "1]: missing '");
         row("no value", "<a b></a>", "''", "1]: missing =");

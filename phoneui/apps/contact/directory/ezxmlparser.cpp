@@ -338,7 +338,7 @@ EzxmlShape *EzxmlParser::shapeOf(const EzxmlName &tag)
             shape->learn(example);
         example = nullptr;
     }
-    return shape && shape->isExpected() ? shape : nullptr;
+    return shape && shape->isExpected(tag) ? shape : nullptr;
 }
 
 inline void EzxmlParser::setText(ezxml *element, char *text)

@@ -1,6 +1,5 @@
 #include "ezxmlshape.h"
 
-#include "ezxml.h"
 #include "ezxmltext.h"
 
 #include <cstring>
@@ -19,6 +18,7 @@ using namespace EzxmlText;
 void EzxmlShape::learn(const ezxml *element)
 {
     --m_lessons;
+    m_name = element->name;
     m_recordCount = m_valueCount = m_listLength = m_literalLength = m_literalStart = 0;
     if (addElement(element, 0))
         m_credit = s_mostCredit;

@@ -3,11 +3,10 @@
 
 #include "ezxmlentities.h"
 #include "ezxmlmemory.h"
+#include "ezxmlnames.h"
 
 #include <cstdint>
 #include <string_view>
-
-struct ezxml;
 
 /// The shape of an element with all that it holds: its tags, attributes and indentation, without the values.
 /// Documents made by programs repeat their elements to the byte except for the values. An element like one before
@@ -17,9 +16,13 @@ struct ezxml;
 class EzxmlShape
 {
 public:
-    /// Whether elements like the one learned are expected. Shapes that do not come again are given up, and others
-    /// are learned in their place a few times.
-    bool isExpected() const { return m_credit > 0; }
+    /// Whether an element of this name may be like the one learned. Shapes that do not come again are given up, and
+    /// others are learned in their place a few times.
+    bool isExpected(const EzxmlName &name) const
+    {
+        return m_credit > 0 && name.length == m_name.size()
+            && std::memcmp(name.text, m_name.data(), m_name.size()) == 0;
+    }
     bool isTeachable() const { return m_credit == 0 && m_lessons > 0; }
 
     /// Takes the shape of a finished element, unless that is too large or has text between its children.
@@ -71,6 +74,7 @@ private:
     char **buildAttributes(const Record &record, char **list);
     char *decodedText(std::size_t value, EzxmlEntities *entities);
 
+    std::string_view m_name; ///< of the element learned
     int m_credit = 0;
     int m_lessons = 4;
     std::size_t m_recordCount = 0;
