@@ -23,10 +23,17 @@ BaseWidget::BaseWidget(QWidget *parent)
     : QDialog(parent, Qt::FramelessWindowHint), m_loopLevel(QThread::currentThread()->loopLevel())
 {
     setGeometry(ScreenGeometry);
+    setBgColor(Qt::white);
     status = theCore->statusWidget();
     tail = new Tail(this);
     tail->setGeometry(TailGeometry);
     tail->setVisible(true);
+}
+
+void BaseWidget::setBgColor(QColor const &color)
+{
+    m_bgColor = color;
+    setAttribute(Qt::WA_OpaquePaintEvent, color.alpha() == 0xff); // which needs no ground of Qt's
 }
 
 void BaseWidget::setupStatus() { }

@@ -21,7 +21,7 @@ public:
     explicit BaseWidget(QWidget *parent);
 
     QColor bgColor() const { return m_bgColor; }
-    void setBgColor(QColor const &color) { m_bgColor = color; }
+    void setBgColor(QColor const &color);
 
     /// How often the screen has been closed or hidden; see ScreenWatch.
     int hideCount() const { return m_hideCount; }
@@ -55,7 +55,7 @@ protected:
 private:
     void closeOwnedWindows();
 
-    QColor m_bgColor = Qt::white;
+    QColor m_bgColor;
     int m_hideCount = 0;
     const int m_loopLevel; ///< how many event loops ran when the screen was made
 };

@@ -13,6 +13,7 @@ ListView::ListView(QWidget *parent) : QWidget(parent)
     static constexpr int LongPressTime = 1000, AfterThisEvent = 1; // ms
 
     setFocusPolicy(Qt::StrongFocus);
+    setBackgroundColor(Qt::white);
     setFont(QFont(QStringLiteral("1V_02_GO_UI"), 20));
 
     m_longPressTimer.setInterval(LongPressTime);
@@ -20,6 +21,13 @@ ListView::ListView(QWidget *parent) : QWidget(parent)
     m_checkFocusTimer.setInterval(AfterThisEvent);
     m_checkFocusTimer.setSingleShot(true);
     connect(&m_checkFocusTimer, &QTimer::timeout, this, &ListView::checkFocus);
+}
+
+void ListView::setBackgroundColor(QColor const &color)
+{
+    m_backgroundColor = color;
+    // It covers the list: what lies behind needs no paint.
+    setAttribute(Qt::WA_OpaquePaintEvent, color.alpha() == 0xff);
 }
 
 ListView::~ListView()

@@ -86,7 +86,7 @@ public:
 
     void setLineColor(QColor color) { m_lineColor = color; }
     QColor lineColor() const { return m_lineColor; }
-    void setBackgroundColor(QColor const &color) { m_backgroundColor = color; }
+    void setBackgroundColor(QColor const &color);
     QColor backgroundColor() const { return m_backgroundColor; }
     void setBackgroundPixmap(QPixmap const &pixmap) { m_backgroundPixmap = pixmap; }
     QPixmap backgroundPixmap() const { return m_backgroundPixmap; }
@@ -242,7 +242,7 @@ private:
     std::function<ListViewItem *(int)> m_makeItem; ///< gets the place in the list
     QColor m_lineColor = Qt::black;
     QPixmap m_backgroundPixmap;
-    QColor m_backgroundColor = Qt::white;
+    QColor m_backgroundColor;
     int m_page = 0;
     int m_pageCount = 3;
     int m_selectedIdx = 0;

@@ -8,7 +8,10 @@
 
 static const QColor thumbColor(34, 34, 34);
 
-SelectPopupListView::SelectPopupListView(QWidget *parent) : ListView(parent) { }
+SelectPopupListView::SelectPopupListView(QWidget *parent) : ListView(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent, false); // the popup's ground shows between the rows
+}
 
 void SelectPopupListView::setSelectPixmap(const QPixmap &left, const QPixmap &middle, const QPixmap &right)
 {
