@@ -10,7 +10,6 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QSettings>
-#include <QTextFormat>
 
 #include <memory>
 
@@ -21,15 +20,11 @@ public:
     using QLineEdit::QLineEdit;
 
     QString pending;
-    bool underlined = false;
 
 protected:
     void inputMethodEvent(QInputMethodEvent *event) override
     {
         pending = event->preeditString();
-        underlined = false;
-        for (const auto &attribute : event->attributes())
-            underlined |= attribute.value.value<QTextFormat>().toCharFormat().fontUnderline();
         QLineEdit::inputMethodEvent(event);
     }
 };

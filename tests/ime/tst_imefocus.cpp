@@ -51,8 +51,7 @@ private slots:
     void timeCommitsWhatIsPending()
     {
         type("23");
-        QCOMPARE(edit().text(), QString("a"));
-        QVERIFY(edit().pending == "d" && edit().underlined);
+        QCOMPARE(edit().text() + '|' + edit().pending, QString("a|d"));
         setTapTime(20);
         m_phone->second.setFocus();
         QCOMPARE(edit().text(), QString("ad")); // which leaving does, too
@@ -64,21 +63,20 @@ private slots:
     {
         writeKorean();
         setTapTime(20);
-        QStringList written;
-        for (const char *keys : {"4", "1", "00", "4", "4", "<"}) {
+        const auto typed = [this](const char *keys) {
             type(keys);
-            QTRY_COMPARE(edit().pending, QString());
-            written += edit().text();
-        }
+            return QTest::qWaitFor([this] { return edit().pending.isEmpty(); }) ? edit().text() + ' ' : QString();
+        };
         // The same consonant after a pause is another one.
-        QCOMPARE(written.join(' '), QString("ㄱ 기 김 김ㄱ 김ㄱㄱ 김ㄱ"));
+        QString written;
+        for (const char *keys : {"4", "1", "00", "4", "4", "<"})
+            written += typed(keys);
+        QCOMPARE(written, QString("ㄱ 기 김 김ㄱ 김ㄱㄱ 김ㄱ "));
         // Where the cursor was moved or a screen wrote, nothing goes on.
         edit().setText("김");
-        type("4");
-        QTRY_COMPARE(edit().text(), QString("김ㄱ"));
+        QCOMPARE(typed("4"), QString("김ㄱ "));
         edit().setCursorPosition(0);
-        type("12");
-        QTRY_COMPARE(edit().text(), QString("ㅏ김ㄱ"));
+        QCOMPARE(typed("12"), QString("ㅏ김ㄱ "));
     }
 
     void theEraseKeyTakesOneLetter()
@@ -91,13 +89,12 @@ private slots:
         };
         type("2>2");
         QCOMPARE(erase(), QString("a"));
-        QCOMPARE(erase(), QString());
         writeKorean();
         type("4100");
-        QCOMPARE(erase(), QString("기"));
+        QCOMPARE(erase(), QString("a기"));
         type("00>");
-        QCOMPARE(edit().text(), QString("김"));
-        QCOMPARE(erase(), QString());
+        QCOMPARE(edit().text(), QString("a김"));
+        QCOMPARE(erase(), QString("a"));
     }
 
     void otherKeysCommit()
@@ -141,11 +138,10 @@ private slots:
         QVERIFY(PhoneKeys::showAndActivate(&m_phone->window));
         edit().setFocus();
         QString finished;
-        connect(&edit(), &QLineEdit::editingFinished, this, [&] { finished += edit().text(); });
+        connect(&edit(), &QLineEdit::editingFinished, &popup, [&] { finished += edit().text(); });
         type("99");
         m_phone->second.setFocus();
         QCOMPARE(finished, QString("x"));
-        edit().disconnect(this);
     }
 
     void modesAndLanguagesCommit()
@@ -154,40 +150,36 @@ private slots:
         setMode(IMESmall); // which it has already
         type("2");
         QCOMPARE(edit().pending, QString("b"));
-        setMode(IMECapital);
-        QCOMPARE(edit().text(), QString("b"));
-        type("2#");
+        type("#2#");
         QCOMPARE(edit().text(), QString("bA"));
         writeKorean();
         type("41");
         setLanguage("ru_RU");
         type("22");
-        QCOMPARE(edit().text(), QString("bA기"));
-        QCOMPARE(edit().pending, QString("б"));
+        QCOMPARE(edit().text() + '|' + edit().pending, QString("bA기|б"));
     }
 
     void respectsTheLength()
     {
-        const struct
-        {
-            bool korean;
-            QString keys, text;
-        } cases[] = {{false, "2333456", "af"},     {false, "234<5", "aj"}, // room again
-                     {true, "41249921", "각처"},   {true, "412>4100", "가김"},
-                     {true, "412>410012", "가김"}, // the vowel needs another syllable
-                     {true, "412>412788", "가값"}};
-        for (const auto &c : cases) {
-            setLanguage(c.korean ? "ko_KR" : "en_US");
-            setMode(c.korean ? IMEFirst : IMESmall);
+        // Four are Korean. There is room again after an erasure; a vowel may need another syllable.
+        for (const auto &[keys, text] : {std::pair(QString("2333456"), "af"),
+                                         {"234<5", "aj"},
+                                         {"k41249921", "각처"},
+                                         {"k412>4100", "가김"},
+                                         {"k412>410012", "가김"},
+                                         {"k412>412788", "가값"}}) {
+            const bool korean = keys.startsWith('k');
+            setLanguage(korean ? "ko_KR" : "en_US");
+            setMode(korean ? IMEFirst : IMESmall);
             edit().setFocus();
             edit().clear();
             edit().setMaxLength(2);
-            for (const QChar key : c.keys) {
+            for (const QChar key : keys.mid(korean)) {
                 type(key);
                 QVERIFY(edit().text().size() <= 2);
             }
             m_phone->other.setFocus();
-            QCOMPARE(edit().text(), c.text);
+            QCOMPARE(edit().text(), QString(text));
         }
         // What is selected makes room.
         edit().setFocus();
@@ -288,9 +280,6 @@ private slots:
         type("25#*<");
         QCOMPARE(other.presses.size(), 5);
         QCOMPARE(other.releases, other.presses);
-        edit().setFocus();
-        type("2<<");
-        QCOMPARE(other.presses.size(), 5);
     }
 
     void pictures()
