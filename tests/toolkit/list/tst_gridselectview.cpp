@@ -2,6 +2,8 @@
 
 #include "gridlistviewitem.h"
 #include "gridselectview.h"
+#include "listviewcontactitem.h"
+#include "twocolumnlistview.h"
 
 constexpr auto ByColumn = GridSelectView::ScrollByColumn, ByRow = GridSelectView::ScrollByRow;
 constexpr Qt::Key Hash = Qt::Key(223);
@@ -18,7 +20,7 @@ public:
     }
 };
 
-/// Movement in grids, page by page.
+/// Movement in grids, page by page, and what they look like.
 class TestGridSelectView : public TestCase
 {
     Q_OBJECT
@@ -99,21 +101,6 @@ private slots:
         QCOMPARE(cells, (QList<int>{6, 7, 8, 8, 8, 8, 9, 10, 11, 5, 11, 17, 0}));
     }
 
-    void digitMap()
-    {
-        ListWindow<GridSelectView> window;
-        window.list->setUseDigitMap(true);
-        for (int digit : {Qt::Key_1, Qt::Key_2, Hash}) {
-            auto *cell = new GridListViewMenuItem(digit == Qt::Key_2 ? " " : "Cell", QPixmap(), QPixmap());
-            cell->setDigitKey(digit);
-            window.list->addItem(cell);
-        }
-        QVERIFY(window.showNow());
-        QSignalSpy clicks(window.list, &ListView::clicked);
-        PhoneKeys::clickAll({Hash, Qt::Key_2 /* a cell without text */, Qt::Key_1});
-        QCOMPARE(values(clicks), (QList<int>{2, 0}));
-    }
-
     void rebuildsInsideItsSignals()
     {
         GridWindow window(14);
@@ -127,6 +114,32 @@ private slots:
         connect(window.list, &GridSelectView::pageMoved, this, rebuild);
         PhoneKeys::clickAll({Up, Up, Left, Right, Hash, Qt::Key_4, Down, Enter});
         QCOMPARE(window.list->itemSize(), 7);
+    }
+
+    void pictures()
+    {
+        ListWindow<TwoColumnListView> window;
+        for (const char *name : {"Anna Schmidt", "Bernd Maier-Leibnitz", "Carla", "Dora", "Emil von Hohenstaufen"})
+            window.list->addItem(new ListViewContactGridItem(name, 1, 1));
+        QVERIFY(window.showNow());
+        // Dotted lines between the cells; the frame keeps to the part of the cell that the contact takes.
+        window.checkPicture("grid-first", "#bbb 190,33 186,90 white 90,33 184,5 0,102 black 183,5");
+        PhoneKeys::clickAll({Right, Down});
+        PhoneKeys::press(Enter);
+        window.checkPicture("grid-pressed", "black 373,50 190,50 white 189,50");
+        PhoneKeys::release(Enter);
+        window.list->setUseDotLines(false);
+        window.list->setUseDivideLines(true);
+        window.list->setShowIndex(true);
+        window.list->setGridSize(2, 3);
+        window.list->itemClear();
+        const QPixmap icon(":/ui/images/widget/confirm.png"), small = icon.scaled(24, 24);
+        window.add({new GridListViewItem("Settings", icon, {}), new GridListViewMenuItem("Menu", small, {}),
+                    new GridListViewFunctionItem("Add", small, {}),
+                    new GridListViewItem("A long caption", {}, {})});
+        window.list->setSelectedIdx(2);
+        window.list->update();
+        window.checkPicture("grid-menu", "white 0,103");
     }
 };
 

@@ -3,7 +3,6 @@
 #include "listviewcheckitem.h"
 #include "listviewprogressitem.h"
 #include "listviewselectitem.h"
-#include "slidelistview.h"
 
 using List = QList<int>;
 
@@ -19,7 +18,7 @@ public:
     }
 };
 
-/// Rows, selection, paging and keys.
+/// Rows, selection, keys, and what it looks like.
 class TestListView : public PhoneTest
 {
     Q_OBJECT
@@ -110,39 +109,24 @@ private slots:
         QVERIFY(!window.list->item(3) && !window.list->item(-1));
     }
 
-    void changesValues()
+    void changesValuesAndClicks()
     {
         ListWindow window;
         auto *bar = new ListViewProgressItem("Volume", 9);
+        auto *check = new ListViewCheckItem("Plain", false), *fixed = new ListViewCheckItem("By its screen", false);
         bar->setStep(2);
-        bar->setMinValue(1);
         bar->setValue(7);
-        window.add({bar, new ListViewSelectItem("Tone", "One")});
+        fixed->setIsNoValueChange(true);
+        window.add({bar, new ListViewSelectItem("Tone", "One"), check, fixed});
         QVERIFY(window.showNow());
         QSignalSpy changes(window.list, &ListView::changeValue), clicks(window.list, &ListView::clicked);
         PhoneKeys::clickAll({Right, Qt::Key_VolumeUp, Left, Qt::Key_VolumeDown, Qt::Key_VolumeMute, Left});
-        QCOMPARE(values(changes, 1), (List{9, 9, 7, 5, 5, 1})); // a mute tells the value from before it
-        PhoneKeys::clickAll({Down, Left, Right, Qt::Key_VolumeUp});
-        QCOMPARE(values(clicks), (List{1, 1}));
-    }
-
-    void togglesAndClicks()
-    {
-        ListWindow window;
-        auto *check = new ListViewCheckItem("Plain", false),
-             *fixed = new ListViewCheckItem("Screen decides", false);
-        fixed->setIsNoValueChange(true);
-        window.add({check, fixed});
-        QVERIFY(window.showNow());
-        QSignalSpy clicks(window.list, &ListView::clicked);
-        PhoneKeys::clickAll({Enter, Down, Qt::Key_Enter});
-        QVERIFY(check->isChecked() && !fixed->isChecked());
-        window.list->ignoreEnterKey = true;
-        PhoneKeys::click(Enter);
-        window.list->ignoreEnterKey = false;
+        QCOMPARE(values(changes, 1), (List{9, 9, 7, 5, 5, 0})); // a mute tells the value from before it
+        PhoneKeys::clickAll({Down, Left, Right, Qt::Key_VolumeUp, Down, Enter, Down, Qt::Key_Enter});
         window.list->setSelectedIdx(-1);
         PhoneKeys::click(Enter);
-        QCOMPARE(values(clicks), (List{0, 1}));
+        QCOMPARE(values(clicks), (List{1, 1, 2, 3}));
+        QVERIFY(check->isChecked() && !fixed->isChecked());
     }
 
     void rebuildsInsideItsSignals()
@@ -177,20 +161,6 @@ private slots:
         QCOMPARE(window.releases, (List{Qt::Key_F5, Qt::Key_F7}));
     }
 
-    void longPress()
-    {
-        ListWindow<FuncKeyList> window(3);
-        window.list->setIsEnabledLongPress(true);
-        QVERIFY(window.showNow());
-        QSignalSpy held(window.list, &ListView::longPress), clicks(window.list, &ListView::clicked);
-        PhoneKeys::press(Qt::Key_F4);
-        QTRY_COMPARE(values(held), List{2});
-        PhoneKeys::release(Qt::Key_F4);
-        window.list->longPressTimeout(); // which comes too late
-        QCOMPARE(held.count(), 1);
-        QCOMPARE(values(clicks), List{2});
-    }
-
     void realignsWhenShown()
     {
         ListWindow window(9);
@@ -213,28 +183,43 @@ private slots:
         QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(0, 34), QPoint(366, 67)));
     }
 
-    void slidesInAndOut()
+    void pictures()
     {
-        const QRect target(20, 10, 300, 90);
-        ListWindow<SlideListView> window;
-        SlideListView *list = window.list;
-        list->setVisible(false);
-        list->setGeometry(target);
-        QVERIFY(window.showNow());
-        QSignalSpy shown(list, &SlideListView::showFinished), hidden(list, &SlideListView::hideFinished),
-            closed(list, &SlideListView::closeFinished);
-        for (int turn = 1; turn <= 3; ++turn) {
-            list->show();
-            list->hide();
-            list->show(); // once more while it leaves
-            QVERIFY(list->isVisible() && list->geometry() != target);
-            QTRY_COMPARE(shown.size(), turn);
-            QCOMPARE(list->geometry(), target);
-            turn == 2 ? void(list->close()) : list->hide();
-            QVERIFY2(!list->isVisible() && list->QWidget::isVisible(), "it counts as gone while it leaves");
-            QTRY_VERIFY(!list->QWidget::isVisible());
-            QCOMPARE(hidden.size(), turn - closed.size());
-            QCOMPARE(closed.size(), turn > 1 ? 1 : 0);
+        // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
+        // dotted. The frame stands over the separator.
+        const auto floating = ListViewFocusFloating;
+        const struct
+        {
+            const char *name;
+            int rows, selected;
+            eListViewItemFocusType focusType;
+            int scrollBar;
+            bool pressed;
+            const char *pixels;
+        } looks[] = {
+            {"list-thin", 8, 0, floating, 0, false,
+             "white 369,60 200,0 200,33 2,67 367,67 3,101 #bbb 370,60 0,67 366,67 black 6,0 6,32"},
+            {"list-clear", 8, 4, floating, 1, false, "white 368,50 373,50 370,10 #555 369,50 372,50"},
+            {"list-boxed", 8, 7, floating, 2, false, "#555 368,10 373,10 370,90 372,90 white 369,10 372,10 369,90"},
+            {"list-pressed", 8, 1, floating, 0, true, "black 200,33 200,70 366,50 white 200,71 367,50"},
+            {"list-last", 3, 2, floating, 0, false, "black 6,67 6,101 373,95 #bbb 2,33"},
+            {"list-bar", 8, 1, ListViewFocusBar, 0, false, "black 0,34 366,50 white 200,32 2,67 #bbb 0,67"},
+            {"list-empty", 0, 0, floating, 0, false, "white 0,33"}};
+        for (const auto &look : looks) {
+            ListWindow window(look.rows);
+            window.list->setFocusType(look.focusType);
+            for (int i = 0; i < look.rows; ++i)
+                window.list->item(i)->setFocusType(look.focusType);
+            if (look.rows > 0)
+                window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
+            window.list->setShowEmptyString(true);
+            window.list->setSelectedIdx(look.selected);
+            window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(look.scrollBar));
+            QVERIFY(window.showNow());
+            window.list->setStartIdx(look.selected > 2 ? look.selected / 3 * 3 : 0);
+            if (look.pressed)
+                PhoneKeys::press(Enter);
+            window.checkPicture(look.name, look.pixels);
         }
     }
 };
