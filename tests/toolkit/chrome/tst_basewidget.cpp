@@ -16,17 +16,22 @@ class BaseWidgetTest : public ScreenTest
     {
         ScreenTest::setUp();
         m_bar = screen()->bar();
+        m_heard.clear();
+        const auto hear = [this](const char *what) {
+            return [this, what](int idx) { m_heard += what + QString::number(idx) + ' '; };
+        };
+        connect(m_bar, &Tail::longPress, this, hear("long"));
+        connect(m_bar, &Tail::clicked, this, hear("click"));
+        connect(m_bar, &Tail::pressed, this, [hear](int idx, bool down) { hear(down ? "down" : "up")(idx); });
     }
 
 private slots:
     void fillsTheDisplayBelowTheStatusBar()
     {
-        const QColor yellow(Qt::yellow);
-        m_screen->setBgColor(yellow);
+        m_screen->setBgColor(Qt::yellow);
         const QImage picture = TestScreen::picture();
-        QCOMPARE(picture.pixelColor(0, 26), yellow);
-        QCOMPARE(picture.pixelColor(383, 159), yellow);
-        QVERIFY(picture.pixelColor(383, 25) != yellow);
+        for (const QPoint &place : {QPoint(0, 26), QPoint(383, 159), QPoint(383, 25)})
+            QCOMPARE(picture.pixelColor(place) == QColor(Qt::yellow), place.y() > 25);
     }
 
     void escapeClosesAtTheReleaseAndTheTitleComesBack()
@@ -71,42 +76,35 @@ private slots:
 
     void softKeysClickWhicheverWidgetHasTheFocus()
     {
-        QSignalSpy clicked(m_bar, &Tail::clicked), pressed(m_bar, &Tail::pressed);
         for (const bool inChild : {true, false}) {
             screen()->list->setVisible(inChild);
             for (int i = 0; i < Tail::ButtonCount; ++i) {
+                m_heard.clear();
                 press(Qt::Key(Qt::Key_Context1 + i));
                 QVERIFY(m_bar->button(i)->isDown());
                 release(Qt::Key(Qt::Key_Context1 + i));
                 QVERIFY(!m_bar->button(i)->isDown());
-                QCOMPARE(clicked.takeLast(), QVariantList{i});
-                QCOMPARE(pressed.takeFirst(), (QVariantList{i, true}));
-                QCOMPARE(pressed.takeFirst(), (QVariantList{i, false}));
+                QCOMPARE(m_heard, QString("down%1 up%1 click%1 ").arg(i));
             }
         }
         // Nothing happens without a text or without a press.
+        m_heard.clear();
         m_bar->setFuncButtonText(1, QString());
         click(Qt::Key_Context2);
         release(Qt::Key_Context1);
-        QCOMPARE(clicked.size() + pressed.size(), 0);
+        QCOMPARE(m_heard, QString());
     }
 
     void aHoldIsALongPressAndThenAClick()
     {
-        QString heard;
-        const auto note
-            = [&](const char *what) { return [&heard, what](int idx) { heard += what + QString::number(idx); }; };
-        connect(m_bar, &Tail::longPress, this, note(" long "));
-        connect(m_bar, &Tail::clicked, this, note(" click "));
-        connect(m_bar, &Tail::pressed, this, [&](int idx, bool down) { note(down ? " down " : " up ")(idx); });
         press(Qt::Key_Context4);
-        QTRY_COMPARE(heard, QString(" down 3 long 3"));
+        QTRY_COMPARE(m_heard, QString("down3 long3 "));
         QVERIFY(!m_bar->button(3)->isDown());
         release(Qt::Key_Context4);
         // The bar counts one more release after a long press, and then none.
         release(Qt::Key_Context1);
         release(Qt::Key_Context1);
-        QCOMPARE(heard, QString(" down 3 long 3 up 3 click 3 up 3 click 0"));
+        QCOMPARE(m_heard, QString("down3 long3 up3 click3 up3 click0 "));
     }
 
     void theThirdKeyErasesWhileTextIsTyped()
@@ -115,10 +113,9 @@ private slots:
         edit.show();
         edit.setFocus();
         QCOMPARE(m_bar->funcButtonText(2), QString("Erase"));
-        QSignalSpy clicked(m_bar, &Tail::clicked);
         click(Qt::Key_Context3);
         QCOMPARE(edit.text(), QString("ab"));
-        QVERIFY(clicked.isEmpty());
+        QVERIFY(!m_heard.contains("click"));
         m_bar->setFuncButtonText(2, "Save");
         screen()->list->setFocus();
         QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
@@ -128,21 +125,6 @@ private slots:
         popup.show();
         m_bar->changedIMEStatus(IMESmall);
         QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
-    }
-
-    void aButtonWithTheFocus()
-    {
-        KeyCounter window;
-        ImageButton button(&window);
-        QVERIFY(showAndActivate(&window));
-        button.setFocus();
-        QSignalSpy clicked(&button, &ImageButton::clicked);
-        clickAll({Qt::Key_Return, Qt::Key_Context4});
-        QTest::mouseClick(&button, Qt::RightButton);
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(clicked.size(), 2);
-        QCOMPARE(window.presses, QList<int>{Qt::Key_Context4});
-        QCOMPARE(window.releases, window.presses);
     }
 
     /// Soft keys, buttons with texts, icons and a ground of their own, and a plain one; up, and below it down.
@@ -188,6 +170,7 @@ private slots:
 
 private:
     Tail *m_bar = nullptr;
+    QString m_heard; ///< of the bar
 };
 
 PHONE_TEST_MAIN(BaseWidgetTest)

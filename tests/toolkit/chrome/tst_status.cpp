@@ -93,11 +93,10 @@ private slots:
         m_bar->setUIStatusWifi(Status::Wifi3);
         m_bar->setIMEStatus(IMEFirst);
         const QImage second = shoot("status-indicators-2");
-        QVERIFY(title != first && first != second);
         // Korean has its own input sign.
         QVERIFY(m_phone->core.setLanguageName("ko_KR"));
         m_bar->setIMEStatus(IMEFirst);
-        QVERIFY(shoot("status-korean") != second);
+        QVERIFY(shoot("status-korean") != second && title != first && first != second);
     }
 
 private:

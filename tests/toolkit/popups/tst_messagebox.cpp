@@ -1,3 +1,4 @@
+#include "inputpopup.h"
 #include "messagebox.h"
 #include "screentest.h"
 
@@ -22,6 +23,25 @@ public:
     static constexpr int Untouched = 7;
 };
 
+/// A popup as the group assignment opens it.
+class NamePopup : public InputPopup
+{
+public:
+    explicit NamePopup(QWidget *parent) : InputPopup(parent)
+    {
+        setTitle("Create Group");
+        setMaxLength(30);
+        setIMEType(IMESmall);
+        additionalButton()->setText("Erase");
+        displayAdditionalButton(true);
+        setSoft3ButtonToErase(true);
+        okButton()->setText("OK");
+        cancelButton()->setText("Cancel");
+        setEditText("Family");
+    }
+};
+
+/// Boxes of words, and those with a line edit.
 class MessageBoxTest : public ScreenTest
 {
     Q_OBJECT
@@ -73,9 +93,9 @@ private slots:
 
     void hiddenButtonsTakeNoKeys()
     {
-        MessageBox box(m_screen.get());
-        box.okButton()->hide();
-        box.cancelButton()->hide();
+        Box box(m_screen.get());
+        for (ImageButton *button : {box.additionalButton(), box.okButton(), box.cancelButton()})
+            button->hide();
         const QList<int> keys{Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Context4, Qt::Key_Escape};
         QCOMPARE(runBox(box, [&] { clickAll(keys); }), StillOpen);
     }
@@ -95,20 +115,6 @@ private slots:
         QCOMPARE(runBox(box, holdWhileItGoes), int(QDialog::Rejected));
         release(Qt::Key_Return);
         QVERIFY(m_screen->isVisible());
-    }
-
-    void theQuitTimerRunsOnceAndEndsWithTheBox()
-    {
-        Box box(m_screen.get());
-        QSignalSpy timeouts(&box, &MessageBoxBase::alarmTimeout);
-        connect(&box, &MessageBoxBase::alarmTimeout, &box, &QDialog::reject);
-        box.startQuitTimer(60000);
-        box.startQuitTimer(1);
-        QCOMPARE(box.exec(), int(QDialog::Rejected));
-        QCOMPARE(timeouts.size(), 1);
-        box.startQuitTimer(60000);
-        runBox(box, [] { click(Qt::Key_Return); });
-        QVERIFY(box.findChildren<QTimer *>().isEmpty());
     }
 
     void deletedInASlot()
@@ -172,11 +178,72 @@ private slots:
             if (look.held)
                 press(Qt::Key(look.held));
             TestScreen::shot(look.name);
-            const QImage shown = TestScreen::picture();
-            QCOMPARE(shown.pixelColor(20, 100), QColor(Qt::white));
             // A corner of the OK key's body.
-            QCOMPARE(shown.pixelColor(192, 138), QColor(look.held == Qt::Key_Return ? Qt::black : Qt::white));
+            const QColor body = TestScreen::picture().pixelColor(192, 138);
+            QCOMPARE(body, QColor(look.held == Qt::Key_Return ? Qt::black : Qt::white));
         }
+    }
+
+    void heldOkOfAnInputLosesItsLightAndStillAccepts()
+    {
+        NamePopup popup(m_screen.get());
+        QString looks;
+        keepLooks({popup.additionalButton(), popup.okButton(), popup.cancelButton()}, &looks);
+        const int result = runBox(popup, [&] {
+            press(Qt::Key_Context3);
+            QCOMPARE(looks, QString("1+"));
+            QTRY_COMPARE(looks, QString("1+0-1-2-")); // all three buttons go out
+            release(Qt::Key_Context3);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+        QCOMPARE(popup.editText(), QString("Family"));
+    }
+
+    void aHoldKeepsToTheInput()
+    {
+        NamePopup popup(m_screen.get());
+        press(Qt::Key_Return);
+        QCOMPARE(runBox(popup, [] { release(Qt::Key_Return); }), StillOpen);
+        runBox(popup, [&] {
+            press(Qt::Key_Context2);
+            popup.close();
+        });
+        QTest::qWait(600); // longer than a hold takes
+        QCOMPARE(popup.editText(), QString("Family"));
+    }
+
+    void thePlatformHearsOfAnInput()
+    {
+        NamePopup popup(m_screen.get());
+        Core &core = m_phone->core;
+        core.setAlarm(true);
+        runBox(popup, [&] {
+            QVERIFY(core.isVisibleMenu() && !core.useF13ToDel());
+            QCOMPARE(int(core.getIMEStatus()), int(IMESmall));
+            popup.close();
+            QVERIFY(!core.isVisibleMenu() && core.useF13ToDel());
+        });
+        // Unlike other boxes it leaves a ringing alarm alone, unless a key ended it.
+        QVERIFY(core.alarm());
+    }
+
+    void picturesOfAnInput()
+    {
+        NamePopup popup(m_screen.get());
+        runBox(popup, [&] {
+            for (const QString text : {"", "Family (gypsy) ÄÖÜ", "가족과 친구"}) {
+                popup.setEditText(text);
+                TestScreen::shot("input-" + QString::number(text.size()));
+            }
+            press(Qt::Key_Context2);
+            TestScreen::shot("input-erase-pressed");
+            popup.setEditText("secret");
+            popup.setEchoPassword(true);
+            TestScreen::shot("input-password");
+            // The left end of the box and its ground, under the transparent field.
+            QCOMPARE(TestScreen::picture().pixelColor(10, 90), QColor(0xbb, 0xbb, 0xbb));
+            QCOMPARE(TestScreen::picture().pixelColor(200, 80), QColor(Qt::white));
+        });
     }
 };
 
