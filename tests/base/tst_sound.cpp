@@ -76,22 +76,6 @@ private slots:
             QCOMPARE(wavDuration(path), -1);
     }
 
-    void listsTonesOfAFolder()
-    {
-        const QDir dir(m_dir->path());
-        QVERIFY(dir.mkdir("basicring"));
-        for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "basicring/Bell.wav",
-                                 "basicring/Alarm.WAV", "basicring/note.txt"})
-            makeFile(name, {});
-        QList<QFileInfo> files;
-        m_sounds->addRingDir(files, dir.path(), "*ring*");
-        m_sounds->addRingDir(files, dir.filePath("missing"), "*.wav");
-        QString found;
-        for (const QFileInfo &file : qAsConst(files))
-            found += file.fileName() + ' ';
-        QCOMPARE(found, QString("a_ring.mp3 b_ring.wav Alarm.WAV Bell.wav "));
-    }
-
     void holdsForItsLength()
     {
         // A player that cannot play does not end the sound.

@@ -23,32 +23,17 @@ static ContactData person(const QString &name, int memo = 0)
 }
 
 /// Runs a statement on a connection that the store knows nothing of; `meanwhile` runs while it is open.
-static void onOwnConnection(
-    const QString &path, const QString &sql, const Action &meanwhile = [] {})
+static void onOwnConnection(const QString &path, const QString &sql, const Action &meanwhile = {})
 {
     {
         QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "other");
         database.setDatabaseName(path);
         QVERIFY(database.open());
         QVERIFY(QSqlQuery(database).exec(sql));
-        meanwhile();
+        if (meanwhile)
+            meanwhile();
     }
     QSqlDatabase::removeDatabase("other");
-}
-
-/// Runs as a user whom rights on files bind; the superuser has all of them.
-static void asPlainUser(const QString &folder, const Action &work)
-{
-    constexpr uid_t Nobody = 65534;
-    const bool superuser = geteuid() == 0;
-    if (superuser) {
-        for (const char *name : {"/contacts.db", ""})
-            QCOMPARE(chown(QFile::encodeName(folder + name).constData(), Nobody, Nobody), 0);
-        QCOMPARE(setresuid(Nobody, Nobody, 0), 0);
-    }
-    work();
-    if (superuser)
-        QCOMPARE(setresuid(0, 0, 0), 0);
 }
 
 /// The contact store on files that are broken, not ours, locked, closed to us, or have no room to grow.
@@ -159,31 +144,26 @@ private slots:
     {
         makeStore(3);
         const QByteArray before = content(path());
-        QFile::setPermissions(path(), QFile::ReadOwner);
-        QFile::setPermissions(m_dir->path(), QFile::ReadOwner | QFile::ExeOwner);
-        asPlainUser(m_dir->path(), [this] {
+        withRights(QFile::ReadOwner, QFile::ReadOwner | QFile::ExeOwner, [this] {
             ContactManager store(path());
             QVERIFY(store.isOpen());
             QCOMPARE(store.getAllContacts().size(), 3);
             expectWarning("cannot write .*contacts.db");
             QCOMPARE(store.saveContact(person("Kim"), false), 0);
         });
-        QFile::setPermissions(m_dir->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QCOMPARE(content(path()), before);
     }
 
     void unreadableFile()
     {
         makeStore(3);
-        QFile::setPermissions(path(), {});
-        asPlainUser(m_dir->path(), [this] {
+        withRights({}, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner, [this] {
             expectWarning("cannot use .*contacts.db.*denied");
             ContactManager store(path());
             QVERIFY(!store.isOpen() && store.getContactSearchResults("p").isEmpty());
             expectWarning("cannot write");
             QCOMPARE(store.saveContact(person("Kim"), false), 0);
         });
-        QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner);
         QVERIFY(asideFiles().isEmpty());
         QCOMPARE(ContactManager(path()).getCountOfContact(), 3);
     }
@@ -192,6 +172,20 @@ private:
     void setUp() override { m_dir.reset(new QTemporaryDir); }
     QString path() const { return m_dir->filePath("contacts.db"); }
     QStringList asideFiles() const { return QDir(m_dir->path()).entryList({"contacts.db.damaged-*"}); }
+    /// Runs with these rights on the store, as a user whom rights bind: the superuser has all of them.
+    void withRights(QFile::Permissions file, QFile::Permissions folder, const Action &work)
+    {
+        constexpr uid_t Nobody = 65534;
+        const bool superuser = geteuid() == 0;
+        const QFile::Permissions all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        for (const QString &name : {path(), m_dir->path()})
+            QVERIFY(!superuser || chown(QFile::encodeName(name).constData(), Nobody, Nobody) == 0);
+        QVERIFY(QFile::setPermissions(path(), file) && QFile::setPermissions(m_dir->path(), folder));
+        QVERIFY(!superuser || setresuid(Nobody, Nobody, 0) == 0);
+        work();
+        QVERIFY(!superuser || setresuid(0, 0, 0) == 0);
+        QVERIFY(QFile::setPermissions(m_dir->path(), all) && QFile::setPermissions(path(), all));
+    }
     static QByteArray content(const QString &file)
     {
         QFile f(file);
