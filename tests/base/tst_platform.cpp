@@ -82,8 +82,7 @@ private slots:
     {
         QCOMPARE(m_core->charset(), QString("utf-8"));
         set("config/system.conf", "System/Charset", "EUC-KR");
-        QCOMPARE(getTextCodecType(""), QString("EUC-KR"));
-        QCOMPARE(getTextCodecType("cp949"), QString("cp949"));
+        QCOMPARE(getTextCodecType("") + getTextCodecType("cp949"), QString("EUC-KRcp949"));
         QCOMPARE(getEncodedString("김"), QByteArray("\xb1\xe8"));
         set("config/system.conf", "System/Charset", "no codec");
         QCOMPARE(m_core->charset(), QString("utf-8"));

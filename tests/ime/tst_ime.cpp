@@ -428,15 +428,6 @@ private slots:
         QCOMPARE(popup.presses.size() + popup.releases.size(), 2);
     }
 
-    void leavesOtherWidgetsAlone()
-    {
-        KeyCounter &other = m_phone->other;
-        other.setFocus();
-        type("25#*<");
-        QCOMPARE(other.presses.size(), 5);
-        QCOMPARE(other.releases, other.presses);
-    }
-
     void pictures()
     {
         QFont font = edit().font();

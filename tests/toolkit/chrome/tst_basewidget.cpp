@@ -2,7 +2,6 @@
 #include "tailbutton.h"
 #include "textbutton.h"
 
-#include <QLineEdit>
 #include <QSettings>
 
 using namespace PhoneKeys;
@@ -105,26 +104,6 @@ private slots:
         release(Qt::Key_Context1);
         release(Qt::Key_Context1);
         QCOMPARE(m_heard, QString("down3 long3 up3 click3 up3 click0 "));
-    }
-
-    void theThirdKeyErasesWhileTextIsTyped()
-    {
-        QLineEdit edit("abc", m_screen.get());
-        edit.show();
-        edit.setFocus();
-        QCOMPARE(m_bar->funcButtonText(2), QString("Erase"));
-        click(Qt::Key_Context3);
-        QCOMPARE(edit.text(), QString("ab"));
-        QVERIFY(!m_heard.contains("click"));
-        m_bar->setFuncButtonText(2, "Save");
-        screen()->list->setFocus();
-        QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
-        // A bar that is blocked keeps its text.
-        QDialog popup(m_screen.get());
-        popup.setModal(true);
-        popup.show();
-        m_bar->changedIMEStatus(IMESmall);
-        QCOMPARE(m_bar->funcButtonText(2), QString("Save"));
     }
 
     /// Soft keys, buttons with texts, icons and a ground of their own, and a plain one; up, and below it down.

@@ -20,16 +20,6 @@ class StatusTest : public PhoneTest
     }
 
 private slots:
-    void aTitleSetWhileDisabledIsLost()
-    {
-        m_bar->setTitle("First");
-        m_bar->setDisabledUpdateTitle(true);
-        m_bar->setTitle("Lost");
-        QCOMPARE(m_bar->title(), QString("First"));
-        m_bar->setTitleFromSignal("From a signal");
-        QCOMPARE(m_bar->title(), QString("From a signal"));
-    }
-
     void indicatorsAreKeptButSilentInACall()
     {
         m_bar->setStatusIcon_isCall(true);

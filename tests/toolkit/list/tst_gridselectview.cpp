@@ -6,7 +6,6 @@
 #include "twocolumnlistview.h"
 
 constexpr auto ByColumn = GridSelectView::ScrollByColumn, ByRow = GridSelectView::ScrollByRow;
-constexpr Qt::Key Hash = Qt::Key(223);
 
 /// A grid of three rows and two columns: six cells make a page.
 class GridWindow : public ListWindow<GridSelectView>
@@ -86,25 +85,9 @@ private slots:
         QCOMPARE(window.list->selectedIdx(), 1);
     }
 
-    void hotKeys()
-    {
-        // From the second page; a key without a cell changes nothing.
-        GridWindow window(18, 6);
-        window.list->setUseHotKeyMove(true);
-        QVERIFY(window.showNow());
-        QList<int> cells;
-        for (const int key : {Qt::Key_1, Qt::Key_4, Qt::Key_7, Qt::Key_2, Qt::Key_5, Qt::Key_8, Qt::Key_3,
-                              Qt::Key_6, Qt::Key_9, Qt::Key_Asterisk, Hash, Hash, Qt::Key_0}) {
-            PhoneKeys::click(Qt::Key(key));
-            cells.append(window.list->selectedIdx());
-        }
-        QCOMPARE(cells, (QList<int>{6, 7, 8, 8, 8, 8, 9, 10, 11, 5, 11, 17, 0}));
-    }
-
     void rebuildsInsideItsSignals()
     {
         GridWindow window(14);
-        window.list->setUseHotKeyMove(true);
         QVERIFY(window.showNow());
         const auto rebuild = [&] {
             window.list->itemClear();
@@ -112,7 +95,7 @@ private slots:
         };
         connect(window.list, &ListView::focusChanged, this, rebuild);
         connect(window.list, &GridSelectView::pageMoved, this, rebuild);
-        PhoneKeys::clickAll({Up, Up, Left, Right, Hash, Qt::Key_4, Down, Enter});
+        PhoneKeys::clickAll({Up, Up, Left, Right, Down, Enter});
         QCOMPARE(window.list->itemSize(), 7);
     }
 

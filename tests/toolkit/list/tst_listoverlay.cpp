@@ -72,21 +72,6 @@ private slots:
         QCOMPARE(changes.at(1).at(1).toString(), QString("Ann"));
     }
 
-    void takesTheRowsSettings()
-    {
-        auto *secret = new ListViewLineEditItem("Secret", "abc");
-        secret->setEchoPasswordMode(true);
-        secret->setEditTextDisabled(true);
-        secret->setMaxLength(4);
-        showRows({secret, new ListViewLineEditItem("Name", "Anna")});
-        QTRY_COMPARE(shownText(), QString("abc"));
-        const QLineEdit *edit = m_list->lineEdit();
-        QVERIFY(edit->echoMode() == QLineEdit::Password && edit->isReadOnly() && edit->maxLength() == 4);
-        PhoneKeys::click(Down);
-        QTRY_COMPARE(shownText(), QString("Anna"));
-        QVERIFY(edit->echoMode() == QLineEdit::Normal && !edit->isReadOnly());
-    }
-
     void endsCompositionOfLongText()
     {
         auto *name = new ListViewLineEditItem("Name", "123");
@@ -121,17 +106,6 @@ private slots:
         // The line edit keeps Left and Right for its cursor; the list acts when it has the focus itself.
         QTest::sendKeyEvent(QTest::Press, m_list, Right, QString(), Qt::NoModifier);
         QCOMPARE(values(clicks), (QList<int>{1, 1}));
-    }
-
-    void goesWithItsRow()
-    {
-        showRows({new ListViewLineEditItem("Name", "A"), new ListViewLineEditItem("Memo", "B"),
-                  new ListViewCheckItem("Plain", false)});
-        QTRY_COMPARE(shownText(), QString("A"));
-        m_list->removeItem(0);
-        QTRY_COMPARE(shownText(), QString("B"));
-        m_list->removeItem(0);
-        QTRY_VERIFY(m_list->hasFocus() && !shownEdit());
     }
 
     void survivesRebuilding()

@@ -173,16 +173,6 @@ private slots:
         }
     }
 
-    void frames()
-    {
-        ListWindow window(3);
-        QVERIFY(window.showNow());
-        QTRY_COMPARE(window.list->item(1)->geometry().right(), 374);
-        window.add(1);
-        window.list->setSelectedIdx(1);
-        QTRY_COMPARE(window.list->item(1)->geometry(), QRect(QPoint(0, 34), QPoint(366, 67)));
-    }
-
     void pictures()
     {
         // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a

@@ -103,13 +103,11 @@ private slots:
 
     void deletedWhileShown()
     {
-        static const QList<int> keys[]
-            = {{}, {Qt::Key_Return}, {Qt::Key_Return}, {Qt::Key_Escape}, {Qt::Key_Context4}};
+        const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Context4};
         for (int signal = 0; signal < 5; ++signal) {
             QPointer<SelectPopup> popup = new FilledPopup(m_screen.get());
             const auto remove = [&] { delete popup; };
-            popup->show();
-            QVERIFY(waitUntilActive(popup));
+            QVERIFY(showAndActivate(popup));
             popup->setUseFastClose(signal > 1);
             switch (signal) {
             case 0: remove(); break;
@@ -117,11 +115,10 @@ private slots:
             case 4: connect(popup->cancelButton(), &ImageButton::isHover, this, remove); break;
             default: connect(popup, &QDialog::finished, this, remove); break;
             }
-            for (const int key : keys[signal]) {
-                press(Qt::Key(key));
-                if (popup)
-                    release(Qt::Key(key));
-            }
+            if (popup)
+                press(keys[signal]);
+            if (popup)
+                release(keys[signal]);
             QVERIFY(!popup);
             QVERIFY2(theCore->soundManager()->isEnabledKeytone(), "the keys stayed silent");
             QVERIFY(screenHasKeys());

@@ -1,6 +1,5 @@
 #include "screentest.h"
-#include "toastwaitwithoutkeyevent.h"
-#include "toastwithoutkeyevent.h"
+#include "toastwait.h"
 
 using namespace PhoneKeys;
 
@@ -50,18 +49,6 @@ private slots:
             QVERIFY(timer->isActive());
             QCOMPARE(timer->interval(), time ? time : 9000);
         }
-    }
-
-    void letsKeysThrough()
-    {
-        ToastWithOutKeyEvent plain("Words", Forever, m_screen.get());
-        ToastWaitWithOutKeyEvent wait("Words", Forever, m_screen.get());
-        QSignalSpy clicked(screen()->bar(), &Tail::clicked), escaped(&wait, &ToastWaitWithOutKeyEvent::escaped);
-        QVERIFY(run(plain, [] { clickAll({Qt::Key_Context2, Qt::Key_Return}); }));
-        QVERIFY(run(wait, [] { clickAll({Qt::Key_Context2, Qt::Key_Escape}); }));
-        QCOMPARE(clicked.size(), 2);
-        QCOMPARE(escaped.size(), 1); // Escape is the wait's own
-        QVERIFY2(m_screen->isVisible(), "the key closed the screen");
     }
 
     void goneFromOutside()
