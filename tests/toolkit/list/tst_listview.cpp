@@ -6,18 +6,6 @@
 
 using List = QList<int>;
 
-/// A list whose function keys are on.
-class FuncKeyList : public ListView
-{
-public:
-    explicit FuncKeyList(QWidget *parent) : ListView(parent)
-    {
-        m_isEnableFuncKey = true;
-        setStartFuncKey(Qt::Key_F2);
-        setEndFuncKey(Qt::Key_F5);
-    }
-};
-
 /// Rows, selection, keys, and what it looks like.
 class TestListView : public PhoneTest
 {
@@ -131,7 +119,9 @@ private slots:
 
     void rebuildsInsideItsSignals()
     {
-        ListWindow<FuncKeyList> window(4);
+        ListWindow window(4);
+        window.list->setEnableFuncKey(true);
+        window.list->setStartFuncKey(Qt::Key_F2);
         const auto rebuild = [&] {
             window.list->itemClear();
             window.list->addItem(new ListViewCheckItem("New", false));
@@ -145,20 +135,6 @@ private slots:
         PhoneKeys::clickAll({Enter, Qt::Key_F3, Down, Qt::Key_F2, Up, Left, Qt::Key_VolumeMute, Enter});
         QTest::qWait(10);
         QCOMPARE(window.list->itemSize(), 1);
-    }
-
-    void clicksByFuncKey()
-    {
-        ListWindow<FuncKeyList> window(3);
-        window.list->item(1)->setItemSelectEnable(false);
-        QVERIFY(window.showNow());
-        QSignalSpy clicks(window.list, &ListView::clicked);
-        PhoneKeys::clickAll({Qt::Key_F4, Qt::Key_F3 /* disabled */, Qt::Key_F2});
-        QCOMPARE(window.presses, List());
-        PhoneKeys::clickAll({Qt::Key_F5 /* of the range, but no row */, Qt::Key_F7});
-        QCOMPARE(values(clicks), (List{2, 0}));
-        QCOMPARE(window.presses, List{Qt::Key_F7});
-        QCOMPARE(window.releases, (List{Qt::Key_F5, Qt::Key_F7}));
     }
 
     void realignsWhenShown()

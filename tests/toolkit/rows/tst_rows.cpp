@@ -91,9 +91,6 @@ private slots:
         }
         row.setMaxLength(0); // a length given up with a byte limit empties
         QCOMPARE(row.editText(), QString());
-        ListViewCheckLineEditItem check("Forward", true, "1234567");
-        check.setMaxLength(4);
-        QCOMPARE(check.editText(), QString("1234"));
     }
 
     void callTimer()
@@ -151,15 +148,6 @@ private slots:
         check([](QString title) { return ListViewSelectItem(title, Short); }, 202);
         check([](QString title) { return ListViewCheckLineEditItem(title, true, true, Short); }, 192);
         check([](QString title) { return ListViewTimeEditItem(title, Short, Short); }, 191);
-    }
-
-    void progressCells()
-    {
-        ListViewProgressItem row(QString(), 10);
-        row.setValue(3);
-        for (int cell = 0; cell < 10; ++cell)
-            QCOMPARE(paint(row).pixelColor(373 - 14 - 13 * (9 - cell) + 4, 15) == QColor(0x22, 0x22, 0x22),
-                     cell < 3);
     }
 
     void fieldTextStandsWhereTheLineEditShowsIt()
