@@ -66,6 +66,8 @@ private slots:
         }
         m_list->setSelectedIdx(0);
         QTRY_VERIFY(m_list->lineEdit()->hasFocus());
+        m_list->removeItem(0);
+        QTRY_COMPARE(shownText(), QString("Bb"));
         m_list->setSelectedIdx(-1);
         QTRY_VERIFY(m_list->hasFocus() && !shownEdit());
         QCOMPARE(values(changes), (QList<int>{0, 0, 1, 2, 2}));
