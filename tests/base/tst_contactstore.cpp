@@ -1,5 +1,4 @@
 #include "contactmanager.h"
-#include "qcalllist.h"
 #include "testcase.h"
 #include "textcodec.h"
 
@@ -22,12 +21,10 @@ private slots:
         full.bell = "/r/a b.wav";
         full.buddyId = "kim@example.com";
         full.extra = "%_\\";
-        full.id = m_store->saveContact(full, false);
-        QVERIFY(full.id > 0);
         ContactData nameless;
         nameless.setNumber(2, "33", ContactData::Fax); // a gap before it
-        nameless.id = m_store->saveContact(nameless, false);
-
+        for (ContactData *contact : {&full, &nameless})
+            contact->id = m_store->saveContact(*contact, false);
         m_store.reset(new ContactManager(path()));
         QCOMPARE(m_store->getAllContacts(), QList<ContactData>({nameless, full}));
         QCOMPARE(m_store->getSpecificContactDetail(full.id), full);
@@ -43,7 +40,6 @@ private slots:
         const int group = addGroup("Team");
         QVERIFY(m_store->saveGroupMember(contact.id, {group}));
         QCOMPARE(found("before"), 1);
-
         contact.name = "After";
         contact.setNumbers({"2"}, {ContactData::Etc});
         QCOMPARE(m_store->saveContact(contact, true), contact.id);
@@ -62,63 +58,59 @@ private slots:
         QCOMPARE(m_store->saveContact(stranger, false), 0);
         QCOMPARE(m_store->deleteContact(77, ContactData::LocalContact), 0);
         QCOMPARE(m_store->saveGroupMember(77, {1}), 0);
-        for (const int group : {77, 1}) { // one that is not there, and the built-in one
-            QCOMPARE(m_store->saveGroup(GroupData(group, "New"), true), 0);
-            QCOMPARE(m_store->deleteGroup(group), 0);
-        }
+        for (const int group : {77, 1}) // one that is not there, and the built-in one
+            QCOMPARE(m_store->saveGroup(GroupData(group, "New"), true) + m_store->deleteGroup(group), 0);
         QCOMPARE(m_store->getCountOfContact(), 0);
         QCOMPARE(m_store->getGroupName(1), QString("Unsigned"));
     }
 
     void numbers()
     {
-        const int first = add("Kim", {"+82 (2) 555-01*#"});
-        const int lee = add("Lee", {"", "9", "+82255501*#"});
-        const int newest = add("Kim", {"+82255501*#"});
+        const int first = add("Kim", {"+82 (2) 555-01*#", "9"}), lee = add("Lee", {"", "9", "+82255501*#"}),
+                  newest = add("Kim", {"+82255501*#"});
         QCOMPARE(m_store->getTelnum1_valByUsingId(first), QString("+82255501*#"));
         QCOMPARE(m_store->getContactByUsingNumber("+82255501*#").id, first);
-        QCOMPARE(m_store->getContactByUsingNumber("82255501").id, 0);
-        QCOMPARE(m_store->getContactByUsingNumber("").id, 0);
+        for (const char *unknown : {"82255501", ""})
+            QCOMPARE(m_store->getContactByUsingNumber(unknown).id, 0);
         QCOMPARE(m_store->getIdByUsingNameAndNumber("Kim", "+82 2 555 01*#"), newest);
         QCOMPARE(m_store->getIdByUsingNameAndNumber("Lee", ""), lee);
         QCOMPARE(m_store->getIdByUsingNameAndNumber("Lee", "1"), -1);
+        QCOMPARE(found("501*"), 3);
+        QCOMPARE(found("#9") + found("#\n9") + found("555-01"), 0); // never across two numbers
     }
 
     void groups()
     {
-        const int work = addGroup("Work", "/r/w.wav"), home = addGroup("Home");
-        QVERIFY(work > 1 && home > work);
+        const int work = addGroup("Work"), home = addGroup("Home");
         QCOMPARE(addGroup("Work"), 0);
         QCOMPARE(m_store->saveGroup(GroupData(home, "Work"), true), 0);
         QCOMPARE(m_store->saveGroup(GroupData(work, "Work", "/r/x.wav"), true), work);
         QCOMPARE(m_store->getGroupDetail(work).bell, QString("/r/x.wav"));
-        QCOMPARE(m_store->getGroupDetail(99).id, -1);
         QVERIFY(m_store->existGroupName("Home") && !m_store->existGroupName("home"));
         QStringList names;
-        const QList<GroupData> all = m_store->getAllGroups(false);
-        for (const GroupData &group : all)
+        for (const GroupData &group : m_store->getAllGroups(false))
             names.append(group.name);
         QCOMPARE(names, QStringList({"Unsigned", "Work", "Home"}));
         QVERIFY(m_store->deleteGroup(home));
         QVERIFY(addGroup("Home") > home);
+        QCOMPARE(m_store->getGroupDetail(home).id, -1);
     }
 
     void membershipOrder()
     {
-        const int a = addGroup("a"), b = addGroup("b"), c = addGroup("c");
-        const int contact = add("Kim");
+        const int a = addGroup("a"), b = addGroup("b"), c = addGroup("c"), contact = add("Kim");
+        const auto joins = [&](const QList<int> &groups) {
+            return m_store->saveGroupMember(contact, groups) ? m_store->getGroupIdsOfMember(contact) : QList<int>();
+        };
         QCOMPARE(m_store->getGroupIdsOfMember(contact), QList<int>({1}));
-        QVERIFY(m_store->saveGroupMember(contact, {c, a, b}));
-        QCOMPARE(m_store->getGroupIdsOfMember(contact), QList<int>({c, a, b}));
+        QCOMPARE(joins({c, a, b}), QList<int>({c, a, b}));
         QCOMPARE(m_store->getGroupMemberCount(1, true), 0);
         // The store leaves it to its user to move the members of a group that goes.
         QVERIFY(m_store->deleteGroup(a));
         QCOMPARE(m_store->getGroupIdsOfMember(contact), QList<int>({c, a, b}));
-        QVERIFY(m_store->saveGroupMember(contact, {b, b}));
-        QCOMPARE(m_store->getGroupIdsOfMember(contact), QList<int>({b}));
+        QCOMPARE(joins({b, b}), QList<int>({b}));
         QCOMPARE(m_store->getMembersOfGroup(b), QList<int>({contact}));
-        QVERIFY(m_store->saveGroupMember(contact, {}));
-        QCOMPARE(m_store->getGroupIdsOfMember(contact), QList<int>({1}));
+        QCOMPARE(joins({}), QList<int>({1}));
     }
 
     void deletes()
@@ -141,23 +133,9 @@ private slots:
         ContactManager other(path());
         const int lee = other.saveContact(person("Lee", {"2"}), false);
         QCOMPARE(found("lee"), 1);
-        QCOMPARE(m_store->getCountOfContact(), 2);
         QVERIFY(m_store->deleteContact(lee, ContactData::LocalContact));
         QCOMPARE(other.getContactSearchResults("lee").size(), 0);
         QCOMPARE(other.getAllContacts().size(), 1);
-    }
-
-    void callHistory()
-    {
-        QCallList list(m_dir->filePath("calls.db"));
-        const QDateTime noon(QDate(2024, 2, 29), QTime(12, 0));
-        QVERIFY(list.addCall({"010-1", "Kim", CallRecord::Incoming, noon, 5}));
-        QVERIFY(list.addCall({"0101", "", CallRecord::Outgoing, noon.addSecs(60), 0}));
-        const QList<CallRecord> calls = list.callsbyNumber("0101");
-        QCOMPARE(calls.size(), 2);
-        QCOMPARE(calls.last().startedAt, noon);
-        QCOMPARE(calls.last().direction, CallRecord::Incoming);
-        QVERIFY(list.callsbyNumber("01").isEmpty());
     }
 
     void searchedWords()
@@ -175,11 +153,10 @@ private slots:
         for (const QString &one : people)
             add(one.section('|', 0, 0));
         QVERIFY(!chosungCompare("Kim", ""));
-        QCOMPARE(found(""), m_store->getCountOfContact());
+        QCOMPARE(found(""), people.size());
         for (const QString &one : people) {
             const QString name = one.section('|', 0, 0);
-            const QStringList words = one.split('|').mid(1);
-            for (QString word : words) {
+            for (QString word : one.split('|').mid(1)) {
                 const bool matches = !word.startsWith('-');
                 word.remove('-');
                 QStringList names;
@@ -192,22 +169,12 @@ private slots:
         }
     }
 
-    void searchedNumbers()
-    {
-        add("Kim", {"02-123", "+82*45#"});
-        for (const char *word : {"212", "*45#", "+82"})
-            QCOMPARE(found(word), 1);
-        for (const char *word : {"23+8", "02-123", "23\n+8"}) // never across two numbers
-            QCOMPARE(found(word), 0);
-    }
-
 private:
     void setUp() override
     {
         m_dir.reset(new QTemporaryDir);
         m_store.reset(new ContactManager(path()));
     }
-    void tearDown() override { m_store.reset(); }
     QString path() const { return m_dir->filePath("contacts.db"); }
 
     static ContactData person(const QString &name, const QStringList &numbers = {})

@@ -40,14 +40,11 @@ static int write(const QString &database)
 {
     ContactManager store(database);
     for (int step = 0; step < 10000; ++step) {
-        int done = 0;
-        switch (operationAt(step)) {
-        case Save: done = store.saveContact(person(nameAt(step)), false); break;
-        case DeleteOldest:
-            done = store.deleteContact(store.getAllContacts().value(0).id, ContactData::LocalContact);
-            break;
-        case DeleteAll: done = store.deleteAllContacts(); break;
-        }
+        const int oldest = store.getAllContacts().value(0).id;
+        const Operation operation = operationAt(step);
+        const int done = operation == Save ? store.saveContact(person(nameAt(step)), false)
+            : operation == DeleteOldest    ? store.deleteContact(oldest, ContactData::LocalContact)
+                                           : store.deleteAllContacts();
         if (!done)
             return 1;
         std::printf("%d\n", step);
@@ -60,11 +57,10 @@ static QStringList namesAfter(int steps)
 {
     QStringList names;
     for (int step = 0; step < steps; ++step) {
-        switch (operationAt(step)) {
-        case Save: names.append(nameAt(step)); break;
-        case DeleteOldest: names.removeFirst(); break;
-        case DeleteAll: names.clear(); break;
-        }
+        if (operationAt(step) == Save)
+            names.append(nameAt(step));
+        else
+            names = operationAt(step) == DeleteOldest ? names.mid(1) : QStringList();
     }
     return names;
 }
@@ -107,9 +103,8 @@ private slots:
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == "--write")
-        return write(arguments.value(2));
+    if (argc == 3 && qstrcmp(argv[1], "--write") == 0)
+        return write(argv[2]);
     KilledWriterTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -5,11 +5,6 @@
 
 static const Message Dial{"CM/UI", "dial(int,str,str)", {-2, QByteArray("01"), QByteArray("")}};
 
-static QByteArray bytes(const Message &message)
-{
-    return message_MakeFromValues(message);
-}
-
 /// The wire between processes: what is written reads back, and nothing else does.
 class TestMessage : public TestCase
 {
@@ -22,7 +17,7 @@ private slots:
         const int size = message_Make(buffer.data(), 64, "CM/UI", "dial(int,str,str)", -2, "01", "");
         const QByteArray expected("CM/UI\0dial(int,str,str)\0\xff\xff\xff\xfe\0\2\60\61\0\0", 34);
         QCOMPARE(QByteArray(buffer.data(), size), expected);
-        QCOMPARE(bytes(Dial), expected);
+        QCOMPARE(message_MakeFromValues(Dial), expected);
         Message message;
         QVERIFY(message_Parse(buffer.data(), size, &message));
         QCOMPARE(message.address, Dial.address);
@@ -45,7 +40,7 @@ private slots:
 
     void limits()
     {
-        const int size = bytes(Dial).size();
+        const int size = message_MakeFromValues(Dial).size();
         std::array<char, 0x11000> buffer;
         const auto make = [&](int room) {
             return message_Make(buffer.data(), room, "CM/UI", "dial(int,str,str)", -2, "01", "");
@@ -63,15 +58,15 @@ private slots:
         };
         QCOMPARE(makeText(0xffff), 2 + 7 + 2 + 0xffff);
         QCOMPARE(makeText(0x10000), 0);
-        QVERIFY(bytes({"A", "f(int)", {QByteArray("1")}}).isEmpty());
-        QVERIFY(bytes({"A", "f(int)", {}}).isEmpty());
-        QVERIFY(bytes({QByteArray("A\0B", 3), "f()", {}}).isEmpty());
-        QVERIFY(bytes({"A", "f(str)", {QByteArray("a\0b", 3)}}).isEmpty());
+        QVERIFY(message_MakeFromValues({"A", "f(int)", {QByteArray("1")}}).isEmpty());
+        QVERIFY(message_MakeFromValues({"A", "f(int)", {}}).isEmpty());
+        QVERIFY(message_MakeFromValues({QByteArray("A\0B", 3), "f()", {}}).isEmpty());
+        QVERIFY(message_MakeFromValues({"A", "f(str)", {QByteArray("a\0b", 3)}}).isEmpty());
     }
 
     void broken()
     {
-        const QByteArray whole = bytes(Dial);
+        const QByteArray whole = message_MakeFromValues(Dial);
         QList<QByteArray> faults{whole + 'x', QByteArray(40, '\xff'), QByteArray(40, '\0'),
                                  QByteArray("CM/UI\0f(bool)\0\0\0\0\1", 18),
                                  QByteArray("A\0f(str)\0\xff\xff\60\61", 13)}; // a length beyond the end

@@ -22,11 +22,10 @@ static QByteArray chunk(const QByteArray &name, const QByteArray &content)
     return name + number(content.size()) + content + QByteArray(content.size() % 2, '\0');
 }
 
-static QByteArray format(quint32 byteRate, int extra = 0)
+static QByteArray format(quint32 byteRate)
 {
     return chunk("fmt ",
-                 QByteArray("\1\0\1\0", 4) + number(16000) + number(byteRate) + QByteArray("\2\0\20\0", 4)
-                     + QByteArray(extra, '\0'));
+                 QByteArray("\1\0\1\0", 4) + number(16000) + number(byteRate) + QByteArray("\2\0\20\0\0\0", 6));
 }
 
 static QByteArray wav(const QByteArray &chunks)
@@ -46,18 +45,12 @@ class SoundTest : public TestCase
     void setUp() override
     {
         m_dir.reset(new QTemporaryDir);
-        m_path = qgetenv("PATH");
         qputenv("PATH", m_dir->path().toLocal8Bit() + ":/usr/bin:/bin");
         m_sounds.reset(new SoundManager);
         m_started.reset(new QSignalSpy(m_sounds.data(), &SoundManager::soundStarted));
         m_stopped.reset(new QSignalSpy(m_sounds.data(), &SoundManager::soundStopped));
     }
-    void tearDown() override
-    {
-        m_sounds.reset();
-        qputenv("PATH", m_path);
-        m_dir.reset();
-    }
+    void tearDown() override { m_sounds.reset(); }
 
 private slots:
     void durations()
@@ -65,13 +58,11 @@ private slots:
         const QByteArray title = chunk("LIST", "odd");
         const QByteArray openData = "data" + number(0xFFFFFFFFu) + QByteArray(Rate, '\0');
         const QList<std::tuple<const char *, QByteArray, int>> files = {
-            {"a long format and chunks between", wav(title + format(Rate, 24) + title + sound(250)), 250},
-            {"chunks behind", wav(format(Rate) + sound(250) + title), 250},
+            {"chunks around", wav(title + format(Rate) + title + sound(250) + title), 250},
             {"streamed", wav(format(Rate) + openData), 1000},
             {"cut off", wav(format(Rate) + sound(250)).chopped(Rate / 10), 150},
             {"nothing in it", wav(format(Rate) + sound(0)), 0},
             {"a day is the most", wav(format(1) + sound(10000)), 24 * 60 * 60 * 1000},
-            {"text", "This is no sound at all.", -1},
             {"another RIFF", wav(format(Rate) + sound(250)).replace("WAVE", "AVI "), -1},
             {"no format", wav(sound(250)), -1},
             {"no speed", wav(format(0) + sound(250)), -1},
@@ -81,51 +72,27 @@ private slots:
         };
         for (const auto &[name, content, milliseconds] : files)
             QVERIFY2(wavDuration(makeFile("a.wav", content)) == milliseconds, name);
-        for (const QString &path : {m_dir->filePath("missing.wav"), m_dir->path(), QString("/dev/zero"), QString()})
+        for (const char *path : {"missing.wav", "/tmp", "/dev/zero", ""})
             QCOMPARE(wavDuration(path), -1);
-    }
-
-    void listsTonesOfAFolder()
-    {
-        const QDir dir(m_dir->path());
-        QVERIFY(dir.mkdir("basicring") && dir.mkdir("ring.wav"));
-        for (const char *name : {"b_ring.wav", "a_ring.mp3", "tone.wav", "basicring/Bell.wav",
-                                 "basicring/Alarm.WAV", "basicring/note.txt", "ring.wav/x.wav"})
-            makeFile(name, {});
-        QList<QFileInfo> files;
-        m_sounds->addRingDir(files, dir.path(), "*ring*");
-        m_sounds->addRingDir(files, dir.filePath("missing"), "*.wav");
-        QString found;
-        for (const QFileInfo &file : qAsConst(files))
-            found += dir.relativeFilePath(file.filePath()) + ' ';
-        QCOMPARE(found, QString("a_ring.mp3 b_ring.wav basicring/Alarm.WAV basicring/Bell.wav ring.wav/x.wav "));
     }
 
     void holdsForItsLength()
     {
+        // A player that cannot play does not end the sound.
         makePlayer("echo 'no sound card' >&2; exit 1");
         const QString path = makeSound("a.wav", 300);
         m_sounds->playSound(path, false, "RING");
         QCOMPARE(m_started->takeFirst(), QVariantList({path, "RING"}));
-        QCOMPARE(m_sounds->playing(), path);
-        // A player that cannot play does not end the sound.
         QTRY_COMPARE(played().size(), 1);
         QVERIFY(played().first().endsWith(path.toLocal8Bit()));
-        QVERIFY(m_stopped->isEmpty());
+        QVERIFY(m_stopped->isEmpty() && m_sounds->playing() == path);
         QTRY_VERIFY(m_sounds->playing().isEmpty());
         m_sounds->stopSound(false);
         QCOMPARE(m_stopped->size(), 1);
-    }
-
-    void repeatsUntilItIsStopped()
-    {
-        makePlayer("");
-        m_sounds->playSound(makeSound("a.wav", 20), true, "RING");
-        QTRY_VERIFY(played().size() >= 3);
-        QCOMPARE(m_started->size(), 1);
-        QVERIFY(m_stopped->isEmpty());
-        m_sounds->stopSound(false);
-        QCOMPARE(m_stopped->size(), 1);
+        // One that repeats goes on until it is stopped.
+        m_sounds->playSound(makeSound("b.wav", 20), true, "RING");
+        QTRY_VERIFY(played().size() >= 4);
+        QCOMPARE(m_started->size() + m_stopped->size(), 2);
     }
 
     void theNextSoundEndsTheLast()
@@ -140,23 +107,14 @@ private slots:
         QTRY_COMPARE(played().size(), 2);
         QTRY_VERIFY(!isRunning(played().first()));
         QVERIFY(isRunning(played().last()));
-        m_sounds->stopSound(false);
+        m_sounds->playSound("missing.wav", true, "RING"); // what cannot be played is silence
         QTRY_VERIFY(!isRunning(played().last()));
+        QVERIFY(m_sounds->playing().isEmpty());
+        QCOMPARE(m_started->size(), 2);
         m_sounds->playSound(second, true, "RING");
         QTRY_COMPARE(played().size(), 3);
         m_sounds.reset(); // the phone ends in the middle of a tone
         QVERIFY(!isRunning(played().last()));
-    }
-
-    void whatCannotBePlayedIsSilence()
-    {
-        m_sounds->playSound(makeSound("a.wav", 60000), false, "RING");
-        QCOMPARE(m_started->size(), 1); // without a player, too
-        m_sounds->playSound(m_dir->filePath("missing.wav"), true, "RING");
-        QVERIFY(m_sounds->playing().isEmpty());
-        QCOMPARE(m_stopped->size(), 1);
-        m_sounds->playSound(makeFile("empty.wav", wav(format(Rate) + sound(0))), true, "RING");
-        QCOMPARE(m_started->size(), 1);
     }
 
 private:
@@ -188,7 +146,6 @@ private:
     QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<SoundManager> m_sounds;
     QScopedPointer<QSignalSpy> m_started, m_stopped;
-    QByteArray m_path;
 };
 
 QTEST_GUILESS_MAIN(SoundTest)

@@ -1,6 +1,7 @@
 #ifndef SCREENTEST_H
 #define SCREENTEST_H
 
+#include "imagebutton.h"
 #include "phonetest.h"
 #include "status.h"
 #include "tail.h"
@@ -64,6 +65,15 @@ template <class Dialog, class Acts> int runBox(Dialog &dialog, Acts acts)
             dialog.done(StillOpen);
     });
     return dialog.exec();
+}
+
+/// Keeps how the buttons light up and go out, by their places in the row: "0+0-".
+inline void keepLooks(const QList<ImageButton *> &buttons, QString *looks)
+{
+    for (int i = 0; i < buttons.size(); ++i) {
+        QObject::connect(buttons.at(i), &ImageButton::isHover, buttons.at(i),
+                         [looks, i](bool on) { *looks += QString::number(i) + (on ? '+' : '-'); });
+    }
 }
 
 #endif

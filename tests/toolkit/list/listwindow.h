@@ -27,6 +27,20 @@ public:
             list->addItem(row);
     }
     bool showNow() { return PhoneKeys::showAndActivate(this); }
+    /// Saves how it looks, and checks places in the list: each colour stands before those that have it.
+    void checkPicture(const char *name, const QString &pixels)
+    {
+        QTest::qWait(20);
+        const QImage shown = grab().toImage(), image = shown.copy(list->geometry());
+        TestScreen::save(shown, name);
+        QColor wanted;
+        for (const QString &word : pixels.split(' ')) {
+            if (!word.contains(','))
+                wanted = QColor(word);
+            else if (image.pixelColor(word.section(',', 0, 0).toInt(), word.section(',', 1).toInt()) != wanted)
+                QFAIL(qPrintable(word + " is not " + wanted.name()));
+        }
+    }
 
     List *list;
 };

@@ -1,32 +1,47 @@
-#include "imagebutton.h"
+#include "inputpopup.h"
 #include "messagebox.h"
 #include "screentest.h"
-#include "slidemessagebox.h"
 
 #include <QLabel>
 
 using namespace PhoneKeys;
 
-template <class Box> class Filled : public Box
+class Box : public MessageBox
 {
 public:
-    explicit Filled(QWidget *parent) : Box(parent)
+    explicit Box(QWidget *parent) : MessageBox(parent)
     {
-        this->setTitle("Delete Contact");
-        this->setMessage("Delete Anna?");
-        this->additionalButton()->setText("More");
-        this->displayAdditionalButton(true);
-        this->displayAdditionalButton(false); // which does not take it away again
-        this->okButton()->setText("Delete");
-        this->cancelButton()->setText("No");
-        this->setExtraResult(Untouched);
+        setTitle("Delete Contact");
+        setMessage("Delete Anna?");
+        additionalButton()->setText("More");
+        displayAdditionalButton(true);
+        displayAdditionalButton(false); // which does not take it away again
+        okButton()->setText("Delete");
+        cancelButton()->setText("No");
+        setExtraResult(Untouched);
     }
-    QList<ImageButton *> buttons() { return {this->additionalButton(), this->okButton(), this->cancelButton()}; }
-
     static constexpr int Untouched = 7;
 };
-using Box = Filled<MessageBox>;
 
+/// A popup as the group assignment opens it.
+class NamePopup : public InputPopup
+{
+public:
+    explicit NamePopup(QWidget *parent) : InputPopup(parent)
+    {
+        setTitle("Create Group");
+        setMaxLength(30);
+        setIMEType(IMESmall);
+        additionalButton()->setText("Erase");
+        displayAdditionalButton(true);
+        setSoft3ButtonToErase(true);
+        okButton()->setText("OK");
+        cancelButton()->setText("Cancel");
+        setEditText("Family");
+    }
+};
+
+/// Boxes of words, and those with a line edit.
 class MessageBoxTest : public ScreenTest
 {
     Q_OBJECT
@@ -50,7 +65,7 @@ private slots:
         const struct
         {
             Qt::Key key;
-            QString looks; // of the additional button, OK and cancel, as they light up and go out
+            QString looks; // of the additional button, OK and cancel
             int result, extraResult;
         } endings[] = {{Qt::Key_Context2, "0+0-", 1, 1},
                        {Qt::Key_Context3, "1+1-", 1, 2},
@@ -63,10 +78,7 @@ private slots:
         for (const auto &ending : endings) {
             Box box(m_screen.get());
             QString looks;
-            for (int i = 0; i < 3; ++i) {
-                connect(box.buttons().at(i), &ImageButton::isHover, &box,
-                        [&looks, i](bool on) { looks += QString::number(i) + (on ? '+' : '-'); });
-            }
+            keepLooks({box.additionalButton(), box.okButton(), box.cancelButton()}, &looks);
             const int result = runBox(box, [&] {
                 press(ending.key);
                 QVERIFY(box.isVisible() && box.hasFocus());
@@ -81,13 +93,11 @@ private slots:
 
     void hiddenButtonsTakeNoKeys()
     {
-        MessageBox box(m_screen.get());
-        box.okButton()->hide();
-        box.cancelButton()->hide();
-        const auto keys = [] {
-            clickAll({Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Context4, Qt::Key_Escape});
-        };
-        QCOMPARE(runBox(box, keys), StillOpen);
+        Box box(m_screen.get());
+        for (ImageButton *button : {box.additionalButton(), box.okButton(), box.cancelButton()})
+            button->hide();
+        const QList<int> keys{Qt::Key_Context2, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Context4, Qt::Key_Escape};
+        QCOMPARE(runBox(box, [&] { clickAll(keys); }), StillOpen);
     }
 
     void aKeyThatIsHeldAsItComesOrGoes()
@@ -107,81 +117,33 @@ private slots:
         QVERIFY(m_screen->isVisible());
     }
 
-    void theOkKeyTurnsPages()
-    {
-        Box box(m_screen.get());
-        box.setSkipAccept(true);
-        QSignalSpy pages(&box, &MessageBoxBase::changeMessage);
-        const int result = runBox(box, [&] {
-            clickAll({Qt::Key_Context3, Qt::Key_Return});
-            QCOMPARE(pages.size(), 2);
-            box.setSkipAccept(false);
-            click(Qt::Key_Return);
-        });
-        QCOMPARE(result, int(QDialog::Accepted));
-        QCOMPARE(pages.size(), 2);
-    }
-
-    void theQuitTimerRunsOnceAndEndsWithTheBox()
-    {
-        Box box(m_screen.get());
-        QSignalSpy timeouts(&box, &MessageBoxBase::alarmTimeout);
-        connect(&box, &MessageBoxBase::alarmTimeout, &box, &QDialog::reject);
-        box.startQuitTimer(60000);
-        box.startQuitTimer(1);
-        QCOMPARE(box.exec(), int(QDialog::Rejected));
-        QCOMPARE(timeouts.size(), 1);
-
-        static constexpr int FromOutside = 0;
-        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Context2), int(Qt::Key_Escape), FromOutside}) {
-            box.startQuitTimer(60000);
-            runBox(box, [&] { key ? click(Qt::Key(key)) : void(box.close()); });
-            QVERIFY(box.findChildren<QTimer *>().isEmpty());
-        }
-    }
-
     void deletedInASlot()
     {
-        static const Qt::Key keys[]
-            = {Qt::Key_Return, Qt::Key_Return, Qt::Key_5, Qt::Key_Context2, Qt::Key_Escape, Qt::Key_Return};
-        for (int signal = 0; signal < 6; ++signal) {
+        static const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Return, Qt::Key_Return, Qt::Key_5, Qt::Key_Escape};
+        for (int signal = 0; signal < 5; ++signal) {
             QPointer<Box> box = new Box(m_screen.get());
             const auto remove = [&] { delete box; };
-            box->setSkipAccept(signal == 1);
+            // As the button lights up, and as it goes out.
+            const auto removeAtHover = [&](bool on) {
+                if (on == (signal == 0))
+                    delete box;
+            };
             switch (signal) {
             case 0:
-            case 5:
-                connect(box->okButton(), &ImageButton::isHover, this, [&](bool on) {
-                    if (on == (signal == 0))
-                        delete box;
-                });
-                break;
-            case 1: connect(box, &MessageBoxBase::changeMessage, this, remove); break;
-            case 2: connect(box, &MessageBoxBase::alarmTimeout, this, remove); break;
+            case 1: connect(box->okButton(), &ImageButton::isHover, this, removeAtHover); break;
+            case 2: connect(box, &MessageBoxBase::changeMessage, this, remove); break;
+            case 3: connect(box, &MessageBoxBase::alarmTimeout, this, remove); break;
             default: connect(box, &QDialog::finished, this, remove); break;
             }
+            box->setSkipAccept(signal == 2);
             QVERIFY(showAndActivate(box));
-            box->startQuitTimer(signal == 2 ? 1 : 60000);
+            box->startQuitTimer(signal == 3 ? 1 : 60000);
             m_phone->core.setAlarm(true);
             press(keys[signal]);
             if (box)
                 release(keys[signal]);
             QTRY_VERIFY(!box);
-            QVERIFY2(signal != 5 || m_phone->core.alarm(), "the box went on after its end");
-        }
-    }
-
-    void theSlidingBoxComesAndGoesAtOnce()
-    {
-        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Escape), 0}) {
-            Filled<SlideMessageBox> box(m_screen.get());
-            box.setUseAnimation(true);
-            const int result = runBox(box, [&] {
-                QCOMPARE(box.geometry(), QRect(0, 0, 384, 160));
-                key ? click(Qt::Key(key)) : void(box.close());
-                QVERIFY(!box.isVisible());
-            });
-            QCOMPARE(result, key == Qt::Key_Return ? 1 : 0);
+            QVERIFY2(signal != 1 || m_phone->core.alarm(), "the box went on after its end");
         }
     }
 
@@ -216,11 +178,72 @@ private slots:
             if (look.held)
                 press(Qt::Key(look.held));
             TestScreen::shot(look.name);
-            const QImage shown = TestScreen::picture();
-            QCOMPARE(shown.pixelColor(20, 100), QColor(Qt::white));
             // A corner of the OK key's body.
-            QCOMPARE(shown.pixelColor(192, 138), QColor(look.held == Qt::Key_Return ? Qt::black : Qt::white));
+            const QColor body = TestScreen::picture().pixelColor(192, 138);
+            QCOMPARE(body, QColor(look.held == Qt::Key_Return ? Qt::black : Qt::white));
         }
+    }
+
+    void heldOkOfAnInputLosesItsLightAndStillAccepts()
+    {
+        NamePopup popup(m_screen.get());
+        QString looks;
+        keepLooks({popup.additionalButton(), popup.okButton(), popup.cancelButton()}, &looks);
+        const int result = runBox(popup, [&] {
+            press(Qt::Key_Context3);
+            QCOMPARE(looks, QString("1+"));
+            QTRY_COMPARE(looks, QString("1+0-1-2-")); // all three buttons go out
+            release(Qt::Key_Context3);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+        QCOMPARE(popup.editText(), QString("Family"));
+    }
+
+    void aHoldKeepsToTheInput()
+    {
+        NamePopup popup(m_screen.get());
+        press(Qt::Key_Return);
+        QCOMPARE(runBox(popup, [] { release(Qt::Key_Return); }), StillOpen);
+        runBox(popup, [&] {
+            press(Qt::Key_Context2);
+            popup.close();
+        });
+        QTest::qWait(600); // longer than a hold takes
+        QCOMPARE(popup.editText(), QString("Family"));
+    }
+
+    void thePlatformHearsOfAnInput()
+    {
+        NamePopup popup(m_screen.get());
+        Core &core = m_phone->core;
+        core.setAlarm(true);
+        runBox(popup, [&] {
+            QVERIFY(core.isVisibleMenu() && !core.useF13ToDel());
+            QCOMPARE(int(core.getIMEStatus()), int(IMESmall));
+            popup.close();
+            QVERIFY(!core.isVisibleMenu() && core.useF13ToDel());
+        });
+        // Unlike other boxes it leaves a ringing alarm alone, unless a key ended it.
+        QVERIFY(core.alarm());
+    }
+
+    void picturesOfAnInput()
+    {
+        NamePopup popup(m_screen.get());
+        runBox(popup, [&] {
+            for (const QString text : {"", "Family (gypsy) ÄÖÜ", "가족과 친구"}) {
+                popup.setEditText(text);
+                TestScreen::shot("input-" + QString::number(text.size()));
+            }
+            press(Qt::Key_Context2);
+            TestScreen::shot("input-erase-pressed");
+            popup.setEditText("secret");
+            popup.setEchoPassword(true);
+            TestScreen::shot("input-password");
+            // The left end of the box and its ground, under the transparent field.
+            QCOMPARE(TestScreen::picture().pixelColor(10, 90), QColor(0xbb, 0xbb, 0xbb));
+            QCOMPARE(TestScreen::picture().pixelColor(200, 80), QColor(Qt::white));
+        });
     }
 };
 

@@ -5,16 +5,6 @@
 
 using namespace PhoneKeys;
 
-static bool isInked(const QPixmap &picture, int line)
-{
-    const QImage image = picture.toImage();
-    for (int x = 0; x < image.width(); ++x) {
-        if (image.pixelColor(x, line).lightness() < 128)
-            return true;
-    }
-    return false;
-}
-
 /// A search line above something that can have the focus.
 class SearchLineEditTest : public TestCase
 {
@@ -37,20 +27,12 @@ class SearchLineEditTest : public TestCase
 private slots:
     void theLineEditComesWithTheFocusAndGoesWithDown()
     {
-        QSignalSpy entered(m_search, &SearchLineEdit::enterFocus), left(m_search, &SearchLineEdit::leaveFocus);
         QVERIFY(m_search->lineEdit()->isHidden());
         m_search->setFocus();
         QVERIFY(m_search->lineEdit()->hasFocus());
-        QCOMPARE(entered.size(), 1);
         clickAll({Qt::Key_Up, Qt::Key_Context4, Qt::Key_Down});
         QCOMPARE(m_screen->presses, (QList<int>{Qt::Key_Up, Qt::Key_Context4}));
         QVERIFY(m_search->lineEdit()->isHidden() && m_list->hasFocus());
-
-        m_search->setFocus();
-        m_list->setFocus();
-        QVERIFY(m_search->lineEdit()->isVisible());
-        QCOMPARE(left.size(), 1);
-
         // Without another place the focus stays.
         m_search->setFocus();
         m_list->hide();
@@ -70,8 +52,8 @@ private slots:
             const QRect field = m_search->lineEdit()->geometry();
             const QImage drawn = m_search->grab(field).toImage();
             // Letters that hang below the line are whole: they end with the field.
-            QVERIFY(isInked(m_search->grab(field), field.height() - 1));
-            QVERIFY(!isInked(m_search->grab(field.translated(0, 1)), field.height() - 1));
+            const QRect last(field.left(), field.bottom(), field.width(), 1);
+            QVERIFY(isInked(last) && !isInked(last.translated(0, 1)));
             m_search->setFocus();
             QCOMPARE(drawn, m_search->grab(field).toImage());
             TestScreen::shot(QString("search-focus-%1").arg(height));
@@ -85,6 +67,15 @@ private slots:
     }
 
 private:
+    bool isInked(const QRect &line)
+    {
+        const QImage image = m_search->grab(line).toImage();
+        int darkest = 255;
+        for (int x = 0; x < image.width(); ++x)
+            darkest = qMin(darkest, qGray(image.pixel(x, 0)));
+        return darkest < 128;
+    }
+
     std::unique_ptr<KeyCounter> m_screen;
     SearchLineEdit *m_search = nullptr;
     QWidget *m_list = nullptr;
