@@ -1,13 +1,9 @@
-#include "core.h"
 #include "directorydocument.h"
 #include "directorysettings.h"
 #include "directorytexts.h"
-#include "phonehome.h"
 #include "testcase.h"
-
-#include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
+#include "testmain.h"
+#include "testphone.h"
 
 static QByteArray data(const QByteArray &value)
 {
@@ -49,13 +45,14 @@ private slots:
 
     void fields()
     {
-        using Field
-            = std::tuple<QByteArray, QString, QString, bool>; // an element, its type and value, a number to call
-        for (const auto &[element, type, value, isPhone] :
-             {Field("<data/>", "", "", false), Field("<data isphone='TRUE'/>", "", "", true),
-              Field("<data isphone='1' fontsize='big'/>", "", "", true),
-              Field("<data isphone='01'/>", "", "", false),
-              Field("<data><type>\tnumber </type><value> \n1 2\n </value></data>", "number", "\n1 2\n", false)}) {
+        // An element, its type and value, a number to call.
+        const QList<std::tuple<QByteArray, QString, QString, bool>> elements
+            = {{"<data/>", "", "", false},
+               {"<data isphone='TRUE'/>", "", "", true},
+               {"<data isphone='1' fontsize='big'/>", "", "", true},
+               {"<data isphone='01'/>", "", "", false},
+               {"<data><type>\tnumber </type><value> \n1 2\n </value></data>", "number", "\n1 2\n", false}};
+        for (const auto &[element, type, value, isPhone] : elements) {
             const DirectoryData field = load("<r><item>" + element + "</item></r>").value(0).value(0);
             QCOMPARE(field.getType(), type);
             QCOMPARE(field.getValue(), value);
@@ -68,7 +65,7 @@ private slots:
     void charset()
     {
         const QByteArray document = "<r><display charset='utf-8'/><item>" + data("\xb1\xe8") + "</item></r>";
-        QSettings(m_core->configFileName(SystemConfig), QSettings::IniFormat).setValue("System/Charset", "EUC-KR");
+        m_phone->writeFile("config/system.conf", "[System]\nCharset=EUC-KR\n");
         QCOMPARE(load(document).at(0).at(0).getValue(), QString::fromUtf8("\xea\xb9\x80"));
     }
 
@@ -96,35 +93,21 @@ private slots:
     }
 
 private:
-    void setUp() override
-    {
-        m_folder.reset(new QTemporaryDir);
-        const PhoneHome home(m_folder->path());
-        home.create();
-        home.enter();
-        m_core.reset(new Core(home));
-    }
-    void tearDown() override
-    {
-        m_core.reset();
-        m_folder.reset();
-    }
+    void setUp() override { m_phone.reset(new TestPhone); }
+    void tearDown() override { m_phone.reset(); }
 
     QList<QList<DirectoryData>> load(const QByteArray &document)
     {
-        QFile file(m_folder->filePath("answer.xml"));
-        file.open(QIODevice::WriteOnly);
-        file.write(document);
-        file.close();
+        m_phone->writeFile("answer.xml", document);
+        QFile file(m_phone->home.path("answer.xml"));
         const QList<QList<DirectoryData>> results = loadData(file.fileName().toLatin1(), &m_total);
         [&] { QVERIFY(!file.exists()); }();
         return results;
     }
 
-    QScopedPointer<QTemporaryDir> m_folder;
-    QScopedPointer<Core> m_core;
+    std::unique_ptr<TestPhone> m_phone;
     int m_total = -1;
 };
 
-QTEST_GUILESS_MAIN(TestDirectoryDocument)
+PHONE_TEST_MAIN(TestDirectoryDocument)
 #include "tst_directorydocument.moc"

@@ -12,8 +12,7 @@ class Comparison
 public:
     explicit Comparison(ezxml *root) : m_root(root) { }
 
-    /// False when the document is not for this comparison: it is damaged, has another encoding, refers to what lies
-    /// outside of it, or declares entities that hold markup, which this reader takes as text.
+    /// False when the document is damaged.
     bool run(const QByteArray &document)
     {
         m_parser = XML_ParserCreate(nullptr);
@@ -24,19 +23,9 @@ public:
         XML_SetCharacterDataHandler(m_parser, [](void *self, const char *text, int length) {
             of(self)->m_texts.last().append(text, length);
         });
-        XML_SetSkippedEntityHandler(m_parser, [](void *self, const char *, int) { of(self)->m_isFit = false; });
-        XML_SetEntityDeclHandler(m_parser,
-                                 [](void *self, const char *, int, const char *value, int length, const char *,
-                                    const char *, const char *, const char *) {
-                                     of(self)->m_isFit
-                                         = of(self)->m_isFit && value && !QByteArray(value, length).contains('<');
-                                 });
-        XML_SetXmlDeclHandler(m_parser, [](void *self, const char *, const char *encoding, int) {
-            of(self)->m_isFit = !encoding || qstricmp(encoding, "utf-8") == 0;
-        });
         const bool isWhole = XML_Parse(m_parser, document.constData(), document.size(), 1) == XML_STATUS_OK;
         XML_ParserFree(m_parser);
-        return isWhole && m_isFit;
+        return isWhole;
     }
     QByteArray difference() const { return m_difference; }
 
@@ -80,7 +69,6 @@ private:
 
     ezxml *m_root;
     XML_Parser m_parser = nullptr;
-    bool m_isFit = true;
     ezxml *m_open = nullptr;
     ezxml *m_latest = nullptr; // the last child of the open element
     QList<QByteArray> m_texts{QByteArray()};
