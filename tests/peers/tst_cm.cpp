@@ -84,44 +84,28 @@ private slots:
         QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 1 김"));
     }
 
-    void whatIsNoRequest_data()
-    {
-        QTest::addColumn<QByteArray>("datagram");
-        QTest::addColumn<QByteArray>("fault");
-        const auto row = [](const QByteArray &fault, const char *kind, const QByteArray &datagram) {
-            QTest::newRow(kind) << datagram << fault;
-        };
-        const QByteArray good = directory("NEW_CALL", "1");
-        row("it is no message", "empty", "");
-        row("it is no message", "something behind it", good + "x");
-        row("it is no message", "longer than the wire allows", directory("NEW_CALL", QByteArray(5000, '1')));
-        row("it is for another process", "for another", QByteArray(good).replace("CM/UI", "XCID/UI"));
-        row("there is no such request", "another signature",
-            message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}));
-        row("there is nothing to dial", "no number", dialer("NORMAL", "nobody", ""));
-        row("there is no such dial mode", "a dial mode", dialer("", "1", ""));
-        row("there is no such call mode", "a call mode", dialer("NORMAL", "1", "", "VIDEO"));
-        row("there is no such directory mode", "a directory mode", directory("OTHER", "1"));
-    }
-
     void whatIsNoRequest()
     {
-        QFETCH(QByteArray, datagram);
-        QFETCH(QByteArray, fault);
-        send(datagram);
-        QVERIFY(logs("A datagram was dropped: " + fault));
-        // It still serves, and nothing came of the other.
+        const QByteArray good = directory("NEW_CALL", "1");
+        const QList<QPair<QByteArray, QByteArray>> datagrams
+            = {{"", "it is no message"},
+               {good + "x", "it is no message"},
+               {directory("NEW_CALL", QByteArray(5000, '1')), "it is no message"},
+               {QByteArray(good).replace("CM/UI", "XCID/UI"), "it is for another process"},
+               {message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}),
+                "there is no such request"},
+               {dialer("NORMAL", "nobody", ""), "there is nothing to dial"},
+               {dialer("", "1", ""), "there is no such dial mode"},
+               {dialer("NORMAL", "1", "", "VIDEO"), "there is no such call mode"},
+               {directory("OTHER", "1"), "there is no such directory mode"}};
+        for (const auto &[datagram, fault] : datagrams) {
+            m_log.clear();
+            send(datagram);
+            QVERIFY2(logs("A datagram was dropped: " + fault), fault);
+        }
+        // It still serves, and nothing came of the others.
         send(directory("NEW_CALL", "7"));
         QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 7"));
-    }
-
-    void aPortThatIsTaken()
-    {
-        QProcess second;
-        second.start(PHONE_PROGRAMS "/cm", {"--home", m_phone->home.root()});
-        QVERIFY(second.waitForFinished());
-        QCOMPARE(second.exitCode(), 1);
-        QVERIFY(second.readAllStandardError().contains("cannot be used"));
     }
 
 private:

@@ -50,7 +50,7 @@ class XcidTest : public PeerTest
     void setUp() override
     {
         makePhone("contact");
-        m_phone->writeFile("config/xcid.conf", "[Limits]\nTime=many\nSize=-1\n[Tls]\nAuthority=ca.pem\n");
+        m_phone->writeFile("config/xcid.conf", "[Limits]\nTime=many\nSize=-1\n");
         m_phone->writeFile("run/directory-oldOne.xml", "old");
         QVERIFY(startPeer("xcid"));
     }
@@ -157,38 +157,6 @@ private slots:
         QVERIFY(logs("it answers 401"));
         nginx.kill();
         nginx.waitForFinished();
-    }
-
-    void certificates()
-    {
-        const QString home = m_phone->home.root();
-        m_phone->writeFile("people.csv", "name,number\nKim,1\nKımıl,2\n");
-        QProcess openssl, server;
-        openssl.setWorkingDirectory(home);
-        openssl.start("openssl",
-                      QString("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -days 2 -subj /CN=x "
-                              "-addext subjectAltName=IP:127.0.0.1 -keyout key.pem -out cert.pem")
-                          .split(' '));
-        QVERIFY(openssl.waitForFinished() && openssl.exitCode() == 0);
-        const int port = start(&server, "dservice",
-                               {"--data", home + "/people.csv", "--port", "0", "--user", QString("me:") + Password,
-                                "--tls", home + "/cert.pem", home + "/key.pem"});
-        const auto askAt = [&](const char *host) {
-            m_log.clear();
-            ask(QString("https://me:%1@%2:%3/servlet/DService?pid=me&mac=&keytype=name&key=kim")
-                    .arg(Password, host)
-                    .arg(port)
-                    .toLatin1());
-        };
-        askAt("127.0.0.1");
-        QVERIFY(logs("its certificate is refused")); // nobody knows its authority
-        QVERIFY(QFile::copy(home + "/cert.pem", home + "/ca.pem"));
-        askAt("localhost");
-        QVERIFY(logs("its certificate is refused")); // it is for another name
-        askAt("127.0.0.1");
-        QVERIFY(answer().contains("count=\"2\""));
-        server.terminate();
-        server.waitForFinished();
     }
 
 private:
