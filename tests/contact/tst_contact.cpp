@@ -105,21 +105,6 @@ private slots:
         QCOMPARE(title(), QString("Contacts | All (1/3)"));
     }
 
-    void presenceOfACell()
-    {
-        ContactData contact;
-        contact.name = "Buddy";
-        contact.buddyId = "buddy@presence";
-        m_phone->core.contactManager()->saveContact(contact, false);
-        m_phone->addContact("Plain");
-        m_phone->writeFile("data/presence.ini", "[buddy@presence]\nStatus=2\nDevice=1\n");
-        open();
-        for (const auto &[cell, status, device] : {std::tuple(0, 2, 1), {1, -1, -1}, {9, -1, -1}}) {
-            QCOMPARE(m_contacts->app.currItemPresenceStatus(cell).status, status);
-            QCOMPARE(m_contacts->app.currItemPresenceStatus(cell).device, device);
-        }
-    }
-
     void makesThumbnailsOfLocalPhotos()
     {
         QImage photo(200, 100, QImage::Format_RGB32);

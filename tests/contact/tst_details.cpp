@@ -128,9 +128,7 @@ private slots:
             clickAll(keys);
             QCOMPARE(chosen(screen), QString(marked));
         }
-        screen = open(new GroupList_At_Contact(nullptr, {}));
-        QCOMPARE(chosen(screen), QString());
-        click(Qt::Key_Context4);
+        clickAll({Qt::Key_Up, Qt::Key_Return, Qt::Key_Context4}); // leaves without a mark
         QVERIFY(!screen->isVisible());
         QCOMPARE(chosen(screen), QString("Unassigned"));
     }

@@ -49,11 +49,10 @@ private slots:
     void readsWhatQSettingsReads()
     {
         const QByteArray text
-            = "; words\nalone=1\n[General]\nplain =  a b \t\n[Sec %41\\x]\nquoted=\" a ; b "
-              "\"\nescaped=\\x41\\101\\n\\\"\\\\\\xe9"
-              "\nwide=\\xae40\nbytes=\xb1\xe8\xc3\xb6\nat=@@home\nlong=a\\\n b\nbehind=a ; "
-              "words\nempty=\nnoequals\r\n"
-              "twice=1\ntwice=2\n[%general]\nkey%20two=\"a\" \"b\"\n[open\nhex=\\x\n[Sec %41\\x]\nagain=\\0\\q1";
+            = "; words\nalone=1\n[General]\nplain =  a b \t\n[Sec %41\\x]\nquoted=\" a ; b \"\nwide=\\xae40\n"
+              "escaped=\\x41\\101\\n\\\"\\\\\\xe9\nbytes=\xb1\xe8\xc3\xb6\nat=@@home\nlong=a\\\n b\nempty=\n"
+              "behind=a ; words\nnoequals\r\ntwice=1\ntwice=2\n[%general]\nkey%20two=\"a\" \"b\"\n[open\nhex=\\x\n"
+              "[Sec %41\\x]\nagain=\\0\\q1";
         provision(text);
         const QSettings settings(m_phone->home.path(fileName), QSettings::IniFormat);
         QMap<QString, QString> expected, read;
@@ -90,10 +89,9 @@ private slots:
 
     void charsets()
     {
-        const QString kim = "김";
-        for (const auto &[codec, info, shown] : {std::tuple("EUC-KR", "Charset=EUC-KR", kim),
-                                                 {"UTF-8", "", kim},
-                                                 {"UTF-8", "Charset=Klingon", QString::fromLatin1(kim.toUtf8())}}) {
+        const QString kim = "김", misread = QString::fromLatin1(kim.toUtf8());
+        for (const auto &[codec, info, shown] :
+             {std::tuple("EUC-KR", "Charset=EUC-KR", kim), {"UTF-8", "Charset=Klingon", misread}}) {
             const QByteArray text = phonebook({"김|1|김|1", "김|2||2"}, "Count=2\n" + QByteArray(info));
             provision(QTextCodec::codecForName(codec)->fromUnicode(QString::fromUtf8(text)));
             QCOMPARE(entriesOf(SystemPhonebook::allKey()), QStringList({shown + " 1", shown + " 2"}));
@@ -101,7 +99,6 @@ private slots:
             // The file's own text is what an entry's category is compared with.
             QCOMPARE(entriesOf(shown).size(), shown == kim ? 0 : 1);
             QCOMPARE(entriesOf(SystemPhonebook::unassignedKey()), QStringList{shown + " 2"});
-            QCOMPARE(entriesOf(QString()), QStringList());
         }
     }
 
@@ -140,17 +137,15 @@ private slots:
     {
         provision(people(7));
         openList();
-        const auto dialled = [this](Qt::Key key) {
+        const QList<QPair<Qt::Key, QString>> keys
+            = {{Qt::Key_Return, "1001 Name 1"}, {Qt::Key_F2, "1002 Name 2"}, {Qt::Key_Context2, "1002 Name 2"}};
+        for (const auto &[key, person] : keys) {
             click(key);
-            return sent().join('\n').remove("CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL ");
-        };
-        QCOMPARE(dialled(Qt::Key_Return), QString("1001 Name 1 AUDIO 2 -1"));
-        const QString second = "1002 Name 2 AUDIO 2 -1";
-        QCOMPARE(dialled(Qt::Key_F2), second);
-        QCOMPARE(dialled(Qt::Key_Context2), second);
+            QCOMPARE(sent().join('\n').section(" NORMAL ", 1), person + " AUDIO 2 -1");
+        }
         m_phone->core.callManager()->setCallState("CONNCECT");
-        QCOMPARE(dialled(Qt::Key_Context2), QString());
-        QCOMPARE(dialled(Qt::Key_Return), second);
+        click(Qt::Key_Context2);
+        QCOMPARE(sent(), QStringList());
     }
 
     void commandsCloseIt()

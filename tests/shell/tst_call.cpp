@@ -97,6 +97,7 @@ private slots:
         QVariantList request;
         message_SetObserver([&request](const Message &message) { request = message.arguments; });
         clickAll({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        message_SetObserver({});
         QCOMPARE(request.mid(2, 2), (QVariantList{QByteArray("5552"), QByteArray("\xb1\xe8\xc3\xb6\xbc\xf6")}));
     }
 

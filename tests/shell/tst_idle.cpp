@@ -3,25 +3,12 @@
 
 using namespace PhoneKeys;
 
-/// The home screen: its ways into the applications and its favourite.
+/// The home screen and its favourite.
 class IdleTest : public NeighbourTest<Idle>
 {
     Q_OBJECT
 
 private slots:
-    void showsTheDirectoryOnce()
-    {
-        QStringList launched;
-        m_phone->core.setLauncher([&](const QString &name, void *) { launched.append(name); });
-        m_phone->writeFile("config/phone_info.conf", "[Directory_svc]\nAddr=server\n");
-        QVERIFY(start());
-        clickAll({Qt::Key_Context4, Qt::Key_Context1});
-        m_phone->core.setVisibleContact(true);
-        click(Qt::Key_Context1); // contacts that show already would end
-        QCOMPARE(launched, QStringList("contact"));
-        QCOMPARE(sent(), QStringList({"contact viewContactSearchDir(str) ", "contact viewContactSearchDir(str) "}));
-    }
-
     void okCallsTheFavouriteWhichFollowsItsContact()
     {
         // A command and its items, and the favourite after it, which was Anna with 100 before.

@@ -4,7 +4,6 @@
 #include "testcase.h"
 #include "testmain.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 /// Keeps the keys that reach it, by their names on the phone or as the text that they type.
@@ -49,7 +48,8 @@ private slots:
                {Qt::Key_Escape, None, "\x1b", "Esc"},
                {Qt::Key_A, None, "a", "a"},
                {Qt::Key_5, None, "5", "5"}};
-        const KeyMap map(path());
+        const QTemporaryDir folder;
+        const KeyMap map(folder.filePath("keymap.ini"));
         KeyCatcher window;
         QVERIFY(PhoneKeys::showAndActivate(&window));
         for (const auto &[key, modifiers, text, phoneKey] : keys) {
@@ -67,23 +67,6 @@ private slots:
             pc(true, key, Qt::NoModifier, QString(), true);
         }
         QCOMPARE(window.take(), QString("+Soft1 +Down +Down"));
-        // Keys of the phone are never mapped.
-        PhoneKey::post(Qt::Key_F1, true);
-        PhoneKey::postText("x");
-        QVERIFY(QTest::qWaitFor([] { return !PhoneKey::pending(); }));
-        QCOMPARE(window.take(), QString("+F1 +x -x"));
-    }
-
-    void unknownLines()
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[Keys]\nA=Ok\nB=NoSuchKey\nNoSuchKey=Ok\n");
-        file.close();
-        expectWarning("B=NoSuchKey");
-        expectWarning("NoSuchKey=Ok");
-        QCOMPARE(KeyMap(path()).names(), (QMap<QString, QString>{{"A", "Ok"}}));
-        QVERIFY(file.remove());
     }
 
 private:
@@ -92,9 +75,6 @@ private:
     {
         QTest::simulateEvent(QGuiApplication::focusWindow(), down, key, modifiers, text, repeated);
     }
-    QString path() const { return m_folder.filePath("keymap.ini"); }
-
-    QTemporaryDir m_folder;
 };
 
 PHONE_TEST_MAIN(KeyMapTest)

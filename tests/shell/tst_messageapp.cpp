@@ -48,23 +48,6 @@ private slots:
                  QString("  Hello, are you there?"));
     }
 
-    void aMessageDuringTheToastKeepsItsForm()
-    {
-        QVERIFY(openNew("100"));
-        type("Hello");
-        click(Qt::Key_Context4);
-        QCOMPARE(toast(), QString("Sent"));
-        receive("newMessage(str)", {"200"});
-        settle();
-        QVERIFY(toast().isEmpty() && form()->isVisible());
-        type("Bye");
-        QCOMPARE(receiver() + text(), QString("200Bye"));
-        app()->end();
-        receive("setReceiver(str)", {"300"});
-        QVERIFY(formIsOpen());
-        QCOMPARE(receiver() + text(), QString("300"));
-    }
-
     void sendsAgainAndDeletes()
     {
         for (const char *number : {"100", "200", "300"}) {

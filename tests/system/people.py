@@ -31,8 +31,6 @@ def card(index, family, first):
              f"TEL;TYPE=WORK:+49 89 {index:04}-0", f"TEL;TYPE=CELL:+49 170 {index:04}"]
     if index % 3 == 0:
         lines.append(f"TEL;TYPE=HOME:089 55 {index:04}")
-    if index % 7 == 0:
-        lines.append(f"TEL;TYPE=FAX:089 66 {index:04}")
     if index % 10 == 0:
         lines.append(f"PHOTO;ENCODING=b;TYPE=PNG:{PHOTO}")
     if index % 5 == 0:

@@ -14,11 +14,10 @@ class TestContactTools : public TestCase
     Q_OBJECT
 
 private slots:
-    void help()
+    void exitCodes()
     {
         for (const char *program : {"phonebook", "wpsm"}) {
             QCOMPARE(run(program, {"--help"}), 0);
-            QVERIFY(m_out.contains("--home"));
             QCOMPARE(run(program, {"nonsense"}), 2);
             QCOMPARE(runAtHome(program, {"import"}), 2);
         }
@@ -43,8 +42,6 @@ private slots:
         QCOMPARE(runAtHome("phonebook", {"import", path}), 0);
         QCOMPARE(m_out, QString("read 3, added 1, skipped 2\n  no END:VCARD: 1\n  no name and no number: 1\n"));
         QCOMPARE(m_error, QString("%1:1: skipped: no END:VCARD\n%1:3: skipped: no name and no number\n").arg(path));
-        QCOMPARE(runAtHome("phonebook", {"import", write("b.vcf", "no cards here")}), 1);
-        QVERIFY(m_error.contains("no contact could be read"));
     }
 
     void deviceComesAndGoes()

@@ -113,31 +113,19 @@ private slots:
 
     void outAndBack()
     {
-        QList<ContactImport> people;
-        const auto add = [&people](const std::function<void(ContactData &)> &fill, const QStringList &groups = {}) {
-            people.append({ContactData(), groups});
-            fill(people.last().contact);
-        };
-        add([](ContactData &c) {
-            for (int slot = 0; slot < ContactData::NumberCount; ++slot)
-                c.setNumber(slot, QString("+%1*#").arg(slot), static_cast<ContactData::Telnum_Type>(slot % 5));
-        });
-        add([](ContactData &c) { // gaps
-            c.setNumber(1, "1", ContactData::Fax);
-            c.setNumber(7, "1", ContactData::Etc);
-            c.setEmails({"", "a@b", "a@b"});
-        });
-        add([](ContactData &c) {
-            c.name = " Doe, \"John\"; \\n \\\\ 김😀  x ";
-            c.memo = "one\ntwo\\nthree\\;four\r\nfive;,:=\t\\" + QString("김철수, ").repeated(100);
-            c.bell = "/ring tones/a,b;c%20\\d.wav";
-            c.buddyId = "kim@example.com;x";
-            c.extra = "e\nx\ntra";
-            c.picture = ":/ui/images/album/a b.png";
-        });
-        add([](ContactData &c) { c.name = "Kim"; }, {"Z", "A, b", "C;d", "E\\", " f "});
-        add([](ContactData &) {}); // nothing at all
-        for (const ContactImport &one : qAsConst(people)) {
+        ContactImport full;
+        ContactData &contact = full.contact;
+        contact.name = " Doe, \"John\"; \\n \\\\ 김😀  x ";
+        for (int slot = 1; slot < ContactData::NumberCount; slot += 2) // with gaps
+            contact.setNumber(slot, QString("+%1*#").arg(slot), static_cast<ContactData::Telnum_Type>(slot / 2));
+        contact.setEmails({"", "a@b", "a@b"});
+        contact.memo = "one\ntwo\\nthree\\;four\r\nfive;,:=\t\\" + QString("김철수, ").repeated(100);
+        contact.bell = "/ring tones/a,b;c%20\\d.wav";
+        contact.buddyId = "kim@example.com;x";
+        contact.extra = "e\nx\ntra";
+        contact.picture = ":/ui/images/album/a b.png";
+        full.groups = QStringList{"Z", "A, b", "C;d", "E\\", " f "};
+        for (const ContactImport &one : {full, ContactImport()}) {
             const VCardFile file = read(VCardBridge::write(one, {}) + card("FN:Next\r\nTEL:1"));
             QCOMPARE(file.contacts.size(), 2);
             QVERIFY2(file.contacts.first().contact == one.contact, VCardBridge::write(one, {}));
@@ -170,17 +158,6 @@ private slots:
         QVERIFY(QFile::remove(text));
         QCOMPARE(read(card).contacts.first().contact.picture, text);
         QCOMPARE(QImage(text), image);
-    }
-
-    void tooMuch()
-    {
-        QByteArray lines = "FN:A";
-        for (int i = 0; i < 12; ++i)
-            lines += "\r\nTEL:" + QByteArray::number(100 + i) + "\r\nEMAIL:a@" + QByteArray::number(i);
-        const VCardFile file = read(card(lines));
-        QCOMPARE(file.contacts.first().contact.telnum10, QString("109"));
-        QCOMPARE(file.contacts.first().contact.email3, QString("a@2"));
-        QCOMPARE(file.leftOut, 2 + 9);
     }
 
 private:
