@@ -18,6 +18,7 @@ for line in 'expect tittle x' 'sleep soon' watch 'keys Up' "text 'open"; do
     fails 2 a.keys:2: run "$work/a.keys"
 done
 for words in '' jump 'hold Up' 'press Up Down' 'expect selected first' 'run /none.keys' '--home /none key Up'; do
+    # shellcheck disable=SC2086
     fails 2 phonectl: $words
 done
 fails 1 'is no number' send contact 'f(int)' seven
