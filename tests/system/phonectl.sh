@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# phonectl itself: what fails is told with its line and with what is there instead, and a script with a fault does nothing.
+# phonectl itself: what fails is told with its line and what is there instead; a script with a fault does nothing.
 . "$(dirname "$0")/support.sh"
 
 # fails CODE MESSAGE ARG...
