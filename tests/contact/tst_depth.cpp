@@ -100,22 +100,16 @@ private slots:
         QCOMPARE(script.run(), QString());
     }
 
-    void aNewLanguage_data()
-    {
-        QTest::addColumn<QString>("road");
-        for (const QString &road : roads()) {
-            if (!road.endsWith("Box") && !road.endsWith("Popup")) // these keep their words until they are answered
-                QTest::newRow(qPrintable(road)) << road;
-        }
-    }
-
     /// A screen that shows while the language changes looks as if it had been opened in the new one.
     void aNewLanguage()
     {
-        QFETCH(QString, road);
-        const QString there = lookAfter(road, "en_US", "de_DE"), fresh = lookAfter(road, "de_DE", "de_DE");
-        QCOMPARE(there, fresh);
-        QVERIFY(fresh != lookAfter(road, "en_US", "en_US"));
+        for (const QString &road : roads()) {
+            if (road.endsWith("Box") || road.endsWith("Popup")) // these keep their words until they are answered
+                continue;
+            const QString there = lookAfter(road, "en_US", "de_DE"), fresh = lookAfter(road, "de_DE", "de_DE");
+            QCOMPARE(road + there, road + fresh);
+            QVERIFY2(fresh != lookAfter(road, "en_US", "en_US"), qPrintable(road));
+        }
     }
 
 private:

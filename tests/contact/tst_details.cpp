@@ -7,7 +7,6 @@
 #include "listviewcontactitem.h"
 #include "phonescript.h"
 #include "phonetest.h"
-#include "qcalllist.h"
 #include "testmain.h"
 #include "wpsmcontactmanager.h"
 
@@ -58,73 +57,52 @@ private slots:
 
     void longTextsFlow()
     {
+        ContactData contact;
+        contact.name = "Kim";
+        contact.setNumbers({"1"}, {ContactData::Mobile});
         for (const int width : {231, 232}) {
-            const QString text = textOfWidth(width);
-            QCOMPARE(QFontMetrics(QFont()).horizontalAdvance(text), width);
             const bool flows = width > 231;
-            ContactData contact;
-            contact.name = "Kim";
-            contact.memo = text;
-            contact.setNumbers({"1"}, {ContactData::Mobile});
+            contact.memo = textOfWidth(width);
             DetailsDial *details = openDetails(store()->saveContact(contact, false));
             list()->setSelectedIdx(3);
             details->startTimer(); // the wait is over
             details->flowString();
-            QCOMPARE(list()->item(3)->text(), flows ? text.mid(1) : text);
+            const auto shown = [this] { return list()->item(3)->text(); };
+            QCOMPARE(shown(), flows ? contact.memo.mid(1) : contact.memo);
             TestScreen::shot(QString("details-%1-wide").arg(width));
-            QCOMPARE(details->getFocusedNumber(3), text);
-            for (int i = 1; i < text.size() && flows; ++i)
+            QCOMPARE(details->getFocusedNumber(3), contact.memo);
+            for (int i = 1; i < contact.memo.size() && flows; ++i)
                 details->flowString();
-            QCOMPARE(list()->item(3)->text(), text);
+            QCOMPARE(shown(), contact.memo);
             details->flowString();
             list()->setSelectedIdx(2);
-            QCOMPARE(list()->item(3)->text(), text);
+            QCOMPARE(shown(), contact.memo);
         }
     }
 
     void messagesNeedALogin()
     {
         const int id = fullContact();
-        for (const QByteArray login : {"", "LoginMode=USER\n", "Id=4711\n"}) {
+        for (const QByteArray login : {"", "LoginMode=USER\n"}) {
             m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\n" + login);
             openDetails(id);
             list()->setSelectedIdx(2);
             PhoneScript script;
             script.keys({Qt::Key_Context2});
             QCOMPARE((login.isEmpty() ? script.dismissToast() : script).run(), QString());
-            QCOMPARE(sent().filter("message ").join(','),
-                     QString(login.isEmpty() ? "" : "message newMessage(str) 1"));
+            QCOMPARE(sent().filter("message newMessage(str) 1").isEmpty(), login.isEmpty());
         }
     }
 
-    void callsAndLeaves()
+    void callsOneAtATime()
     {
         DetailsDial *details = openDetails(fullContact());
         m_phone->core.callManager()->setCallState("CONNCECT");
         clickAll({Qt::Key_Return, Qt::Key_Down, Qt::Key_Down, Qt::Key_Context1}); // a name is not called
         QVERIFY(details->isVisible());
         m_phone->core.callManager()->setCallState("IDLE");
-        sent();
         click(Qt::Key_Return);
         QVERIFY(!details->isVisible());
-        QCOMPARE(sent(),
-                 QStringList({"contact CloseContact()",
-                              "CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL 1 Kim AUDIO 2 -1"}));
-    }
-
-    void historyOfANumber()
-    {
-        DetailsDial *details = openDetails(fullContact());
-        list()->setSelectedIdx(2);
-        m_phone->core.callList()->addCall({"1", "", CallRecord::Incoming, QDateTime::currentDateTime(), 0});
-        sent();
-        details->showHistoryByNumber();
-        QCOMPARE(sent(), QStringList("history viewDetail(str) 1"));
-        QVERIFY(details->isVisible());
-        details->setTailClickedClose(true);
-        details->showHistoryByNumber();
-        QVERIFY(!details->isVisible());
-        QCOMPARE(sent().filter("history"), QStringList());
     }
 
     void groupMarksExcludeEachOther()
@@ -136,54 +114,40 @@ private slots:
             QStringList names;
             for (const GroupData &group : groups->getGroupSelection())
                 names.append(group.name);
-            return names;
+            return names.join(',');
         };
-        QCOMPARE(chosen(screen), QStringList("Team"));
-        for (const auto &[key, marked] : {
-                 std::pair(Qt::Key_Return, QStringList("Unassigned")), // the built-in group drives the others out
-                 {Qt::Key_Return, {}}, // it can be taken away itself
-                 {Qt::Key_Down, {}},
-                 {Qt::Key_Return, {"Team"}},
-                 {Qt::Key_Down, {"Team"}},
-                 {Qt::Key_Return, {"Team", "Chess"}},
-                 {Qt::Key_Return, {"Team"}},
-                 {Qt::Key_Up, {"Team"}},
-                 {Qt::Key_Return, {"Unassigned"}}, // the last mark brings it back
+        QCOMPARE(chosen(screen), QString("Team"));
+        for (const auto &[keys, marked] : {
+                 std::pair(QList<int>{Qt::Key_Return}, "Unassigned"), // the built-in group drives the others out
+                 {{Qt::Key_Return}, ""}, // it can be taken away itself
+                 {{Qt::Key_Down, Qt::Key_Return}, "Team"},
+                 {{Qt::Key_Down, Qt::Key_Return}, "Team,Chess"},
+                 {{Qt::Key_Return}, "Team"},
+                 {{Qt::Key_Up, Qt::Key_Return}, "Unassigned"}, // the last mark brings it back
              }) {
-            click(key);
-            QCOMPARE(chosen(screen), marked);
+            clickAll(keys);
+            QCOMPARE(chosen(screen), QString(marked));
         }
-        screen = open(new GroupList_At_Contact(nullptr, {}));
-        QCOMPARE(chosen(screen), QStringList());
-        int closed = 0;
-        connect(screen, &GroupList_At_Contact::closeEvent, this, [&closed] { ++closed; });
-        click(Qt::Key_Context4);
+        clickAll({Qt::Key_Up, Qt::Key_Return, Qt::Key_Context4}); // leaves without a mark
         QVERIFY(!screen->isVisible());
-        QCOMPARE(closed, 1);
-        QCOMPARE(chosen(screen), QStringList("Unassigned"));
+        QCOMPARE(chosen(screen), QString("Unassigned"));
     }
 
     void refusesGroupNames()
     {
         const QString tenWide(10, QChar(0xae40)); // 30 bytes
+        for (int i = 1; i < 9; ++i)
+            addGroup(QString("Group %1").arg(i));
         auto *screen = open(new GroupList_At_Contact(nullptr, {1}));
-        const auto create = [](const QString &name) {
+        // The tenth group of one's own is the last.
+        for (const auto &[name, groups] :
+             {std::pair(QString("Group 1"), 9), {tenWide + "x", 9}, {tenWide, 10}, {"The tenth", 11}}) {
             PhoneScript script;
             script.opens(Qt::Key_Context1, "InputPopup").text(name).keys({Qt::Key_Context3}).dismissToast();
-            return script.run();
-        };
-        for (const auto &[name, groups] :
-             {std::pair(QString(), 1), {"New", 2}, {"New", 2}, {tenWide + "x", 2}, {tenWide, 3}}) {
-            QCOMPARE(create(name), QString());
+            QCOMPARE(script.run(), QString());
             QCOMPARE(store()->getCountOfGroup(), groups);
             QCOMPARE(screen->getGroupSelection().size(), 1);
         }
-        // Ten groups of one's own are the most.
-        for (int i = 3; i < 10; ++i)
-            addGroup(QString("Group %1").arg(i));
-        open(new GroupList_At_Contact(nullptr, {1}));
-        QCOMPARE(create("The tenth"), QString());
-        QCOMPARE(store()->getCountOfGroup(), 11);
         QCOMPARE(PhoneScript().keys({Qt::Key_Context1}).dismissToast().run(), QString());
     }
 

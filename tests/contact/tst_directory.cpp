@@ -1,14 +1,10 @@
-// The directory's screens: what they ask for, what they show of an answer, what their keys do with it.
+// The directory's screens: what they show of an answer, and what their keys do with it.
 
 #include "contact.h"
 #include "directorysearchdetail.h"
 #include "directorysettings.h"
 #include "neighbourtest.h"
-#include "searchdir.h"
 #include "searchdirresult.h"
-#include "toast.h"
-
-#include <QTimer>
 
 using namespace PhoneKeys;
 
@@ -17,34 +13,6 @@ class DirectoryTest : public NeighbourTest<Contact>
     Q_OBJECT
 
 private slots:
-    void requests()
-    {
-        // A word, the method, and a notice or how the request ends.
-        const QList<std::tuple<const char *, int, const char *>> cases
-            = {{"k", 0, "The keyword is too short"},         {"ki", 0, "&keytype=name&key=ki&enc=UTF-8"},
-               {"12", 1, "Input at least 3 digits"},         {"123", 1, "&keytype=number&key=123&enc=UTF-8"},
-               {"   ", 1, "&keytype=number&key=&enc=UTF-8"}, {"1", -1, "&keytype=number&key=1&enc=UTF-8"}};
-        m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=me\n[Directory_svc]\nAddr=server\n");
-        m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=secret\n");
-        for (const auto &[word, method, says] : cases) {
-            DirectorySettings::setPage(7);
-            SearchDir form(nullptr, word);
-            QVERIFY(showAndActivate(&form));
-            QString said;
-            QTimer::singleShot(50, &form, [&] {
-                if (auto *toast = form.findChild<Toast *>()) {
-                    said = toast->message();
-                    toast->timeout();
-                }
-            });
-            form.searchBegin(form.getSearchWord(), method);
-            const QString request = sent().value(0);
-            QVERIFY2((said + request).endsWith(says), qPrintable(said + request));
-            QCOMPARE(DirectorySettings::page(), request.isEmpty() ? 7 : 1);
-            QCOMPARE(int(m_phone->core.getIMEStatus()), int(said.startsWith("Input") ? IMENumeric : IMESmall));
-        }
-    }
-
     void pagesOfATotal()
     {
         // The total, the page, and the title and page keys for them; beyond the last they stay.
@@ -54,7 +22,7 @@ private slots:
                                                                                {40, 2, " | 2/2page", "< "},
                                                                                {41, 2, " | 2/3page", "< >"},
                                                                                {41, 4, " | 4/3page", "< >"}};
-        const QList<QList<DirectoryData>> none, some{entry({{"name", "A"}, {"number", "1"}})};
+        const QList<QList<DirectoryData>> none, some{entry({"name|A", "number|1"})};
         for (const auto &[total, page, place, pageKeys] : cases) {
             DirectorySettings::setPage(2);
             SearchDirResult results(nullptr, some, 50);
@@ -71,32 +39,21 @@ private slots:
 
     void rowsOfAnAnswer()
     {
-        const auto first
-            = entry({{"type", "Staff"}, {"name", "Thirteen_char"}, {"number", "1"}, {"cell", "2", "phone"}});
-        const auto second = entry({{"name", "Fourteen_chars"}});
-        for (const int mode : {0, 2, 3}) {
-            SearchDirResult results(nullptr, {first, second, {}}, 3);
-            results.setMode(mode);
-            QVERIFY(showAndActivate(&results));
-            QCOMPARE(list(&results)->item(0)->text(), QString("Thirteen_char"));
-            QCOMPARE(list(&results)->item(1)->text(), QString("Fourteen_c..."));
-            QCOMPARE(list(&results)->itemSize(), 3);
-            QCOMPARE(softKeys(&results).first(), QString(mode == 2 ? "" : "Call"));
-            click(mode ? Qt::Key_Return : Qt::Key_Context1);
-            QVERIFY(!results.isVisible());
-            const QString toIdle = "idle searchContactResult(str,str) Thirteen_char 1";
-            const QStringList messages[] = {{Close, call("1", "Thirteen_char")},
-                                            {},
-                                            {"message setReceiver(str) 1", "contact closeSearchAll()"},
-                                            {toIdle, QString(toIdle).replace("idle", "aom"), Close}};
-            QCOMPARE(sent(), messages[mode]);
-            // A first entry without fields makes an answer useless, but for its number of pages.
-            results.setupResultData({{}, first}, 30);
-            QVERIFY(showAndActivate(&results));
-            QCOMPARE(softKeys(&results).mid(0, 2), QStringList({"", ""}));
-            click(Qt::Key_Return);
-            QVERIFY(results.isVisible());
-        }
+        const auto first = entry({"type|Staff", "name|Thirteen_char", "number|1", "cell|2|phone"});
+        SearchDirResult results(nullptr, {first, entry({"name|Fourteen_chars"}), {}}, 3);
+        QVERIFY(showAndActivate(&results));
+        QCOMPARE(list(&results)->item(0)->text(), QString("Thirteen_char"));
+        QCOMPARE(list(&results)->item(1)->text(), QString("Fourteen_c..."));
+        QCOMPARE(list(&results)->itemSize(), 3);
+        click(Qt::Key_Context1);
+        QVERIFY(!results.isVisible());
+        QCOMPARE(sent(), QStringList({Close, call("1 Thirteen_char")}));
+        // A first entry without fields makes an answer useless, but for its number of pages.
+        results.setupResultData({{}, first}, 30);
+        QVERIFY(showAndActivate(&results));
+        QCOMPARE(softKeys(&results).mid(0, 2), QStringList({"", ""}));
+        click(Qt::Key_Return);
+        QVERIFY(results.isVisible());
     }
 
     void numberOfTheFocusedRow()
@@ -109,11 +66,8 @@ private slots:
                {21, 5, mobile},         {0, 1, ""}};
         ListeningApp messages("message");
         for (const auto &[digits, row, called] : cases) {
-            const QList<QStringList> fields{{"name", "Anna"},
-                                            {"number", whole.left(digits)},
-                                            {"cell", "3", "phone"},
-                                            {"car", mobile, "phone"},
-                                            {"room", "7"}};
+            const QStringList fields{"name|Anna", "number|" + whole.left(digits), "cell|3|phone",
+                                     "car|" + mobile + "|phone", "room|7"};
             DirectorySearchDetail detail(nullptr, entry(fields));
             QVERIFY(showAndActivate(&detail));
             for (int i = 0; i < row; ++i)
@@ -125,23 +79,24 @@ private slots:
             QVERIFY(detail.isVisible());
             click(Qt::Key_Context3);
             click(Qt::Key_Context2);
-            const QStringList both{"message newMessage(str) " + called, Close, call(called, "Anna")};
+            const QStringList both{"message newMessage(str) " + called, Close, call(called + " Anna")};
             QCOMPARE(sent(), offered ? both : QStringList());
         }
     }
 
 private:
-    static QList<DirectoryData> entry(const QList<QStringList> &fields)
+    /// Each field as type, value and what is there for a number to call, with "|" between.
+    static QList<DirectoryData> entry(const QStringList &fields)
     {
         QList<DirectoryData> data;
-        for (const QStringList &field : fields)
-            data.append({data.size(), field.value(0), "label", field.value(1), field.size() > 2});
+        for (const QString &field : fields)
+            data.append(
+                {data.size(), field.section('|', 0, 0), "label", field.section('|', 1, 1), field.count('|') > 1});
         return data;
     }
-    static QString call(const QString &number, const QString &name)
+    static QString call(const QString &person)
     {
-        return QString("CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL %1 %2 AUDIO 2 -1")
-            .arg(number, name);
+        return "CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL " + person + " AUDIO 2 -1";
     }
     static constexpr auto Close = "contact CloseContact()";
 };

@@ -30,15 +30,14 @@ private slots:
     /// A name finds all numbers of its people, a number itself alone.
     void words()
     {
-        const QStringList kim{"Kim Lee 1:0211", "Kim Lee 3:0233"}, none;
+        const QStringList kim{"Kim Lee 1:0211", "Kim Lee 3:0233"};
         open();
-        for (const auto &[word, expected] : {std::pair(QString("kL"), kim),
-                                             {"0", kim + QStringList{"Ten 10:90"}},
-                                             {"233", kim.mid(1)},
-                                             {"mül", {"Müller 1:555"}},
-                                             {"0299", none},
-                                             {"no f", none},
-                                             {"% \\", none}}) {
+        const QList<QPair<QString, QStringList>> finds
+            = {{"kL", kim},         {"0", kim + QStringList{"Ten 10:90"}},
+               {"233", kim.mid(1)}, {"mül", {"Müller 1:555"}},
+               {"0299", {}},        {"no f", {}},
+               {"% \\", {}}};
+        for (const auto &[word, expected] : finds) {
             QCOMPARE(numbers().size(), 13); // every number of everybody who has a first one
             type(word);
             QCOMPARE(numbers(), expected);
@@ -64,16 +63,11 @@ private slots:
         open();
         QVERIFY(lineHasFocus());
         // Each key with the row and the first row that shows after it; none while the line has the focus.
-        for (const auto &[key, row, start] : {std::tuple(Qt::Key_Down, 0, 0),
-                                              {Qt::Key_Down, 1, 0},
-                                              {Qt::Key_Down, 2, 1},
-                                              {Qt::Key_Down, 3, 2},
-                                              {Qt::Key_Up, 2, 2},
-                                              {Qt::Key_Up, 1, 1},
-                                              {Qt::Key_Up, 0, 0},
-                                              {Qt::Key_Up, -1, 0},
-                                              {Qt::Key_Down, 0, 0},
-                                              {Qt::Key_F6, -1, 0}}) {
+        constexpr auto Up = Qt::Key_Up, Down = Qt::Key_Down;
+        const QList<std::tuple<Qt::Key, int, int>> moves
+            = {{Down, 0, 0}, {Down, 1, 0}, {Down, 2, 1}, {Down, 3, 2}, {Up, 2, 2},
+               {Up, 1, 1},   {Up, 0, 0},   {Up, -1, 0},  {Down, 0, 0}, {Qt::Key_F6, -1, 0}};
+        for (const auto &[key, row, start] : moves) {
             click(key);
             QCOMPARE(list()->selectedIdx(), row);
             QCOMPARE(list()->startIdx(), start);
@@ -89,34 +83,23 @@ private slots:
         QVERIFY(!m_search->isVisible());
     }
 
+    /// The contact that is looked at changes meanwhile.
     void detailsAndBack()
     {
         ContactManager *store = m_phone->core.contactManager();
-        const int ten = store->getIdByUsingNameAndNumber("Ten", "91");
+        ContactData ten = store->getSpecificContactDetail(store->getIdByUsingNameAndNumber("Ten", "91"));
         open();
         type("ten");
         PhoneScript script;
-        script.keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down})
-            .opens(Qt::Key_Return, "DetailsDial")
-            .call([&] {
-                ContactData contact = store->getSpecificContactDetail(ten);
-                contact.setNumbers({"91", "92", "93"}, {});
-                store->saveContact(contact, true);
-            })
-            .opens(Qt::Key_Escape, "SearchAll")
-            .call([this] {
-                QCOMPARE(numbers().size(), 3);
-                QCOMPARE(list()->selectedIdx(), 2);
-                QCOMPARE(list()->startIdx(), 1);
-                QVERIFY(list()->hasFocus());
-            })
-            .opens(Qt::Key_F2, "DetailsDial")
-            .call([&] { store->deleteContact(ten, ContactData::LocalContact); })
-            .opens(Qt::Key_Escape, "SearchAll");
-        QCOMPARE(script.run(), QString());
-        QCOMPARE(numbers(), QStringList());
-        QVERIFY(lineHasFocus());
-        QCOMPARE(softKeys().at(1), QString());
+        script.keys(QVector<int>(4, Qt::Key_Down).toList()).opens(Qt::Key_Return, "DetailsDial").call([&] {
+            ten.setNumbers({"91", "92", "93"}, {});
+            store->saveContact(ten, true);
+        });
+        QCOMPARE(script.opens(Qt::Key_Escape, "SearchAll").run(), QString());
+        QCOMPARE(numbers().size(), 3);
+        QCOMPARE(list()->selectedIdx(), 2);
+        QCOMPARE(list()->startIdx(), 1);
+        QVERIFY(list()->hasFocus());
     }
 
 private:

@@ -37,21 +37,13 @@ class PeerTest : public TestCase
     Q_OBJECT
 
 protected:
-    /// Starts a program that prints its port; 0 when none comes.
-    static quint16 start(QProcess *process, const QString &program, const QStringList &arguments)
-    {
-        process->start(PHONE_PROGRAMS "/" + program, arguments);
-        while (!process->canReadLine()) {
-            if (!process->waitForReadyRead())
-                return 0;
-        }
-        return process->readLine().trimmed().toUShort();
-    }
-    /// Starts the peer and writes its port where those who send to it look.
+    /// Starts the peer, which prints its port, and writes that where those who send to it look.
     bool startPeer(const QString &program)
     {
         m_peer.reset(new QProcess);
-        m_port = start(m_peer.get(), program, {"--home", m_phone->home.root(), "--port", "0"});
+        m_peer->start(PHONE_PROGRAMS "/" + program, {"--home", m_phone->home.root(), "--port", "0"});
+        while (!m_peer->canReadLine() && m_peer->waitForReadyRead()) { }
+        m_port = m_peer->readLine().trimmed().toUShort();
         QSettings(m_phone->home.path("config/ipc.conf"), QSettings::IniFormat)
             .setValue(program.toUpper() + "/Port", m_port);
         return m_port != 0;

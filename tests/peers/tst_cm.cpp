@@ -25,8 +25,6 @@ private slots:
         QTest::addColumn<QStringList>("states");
         QTest::newRow("answered") << dialer("NORMAL", "5551", "Zoë")
                                   << QStringList{"DIALING 5551 Zoë", "ALERT 5551 Zoë", "CONNECT 5551 Zoë"};
-        QTest::newRow("busy") << dialer("NORMAL", "5*00", "Zoë")
-                              << QStringList{"DIALING 5*00 Zoë", "BUSY 5*00 Zoë", "IDLE 5*00 Zoë"};
         QTest::newRow("from a directory, round hundreds are not busy")
             << directory("NEW_CALL", "+500") << QStringList{"DIALING +500", "ALERT +500", "CONNECT +500"};
     }
@@ -40,18 +38,14 @@ private slots:
         QCOMPARE(m_app->heard, states);
     }
 
+    /// One that is not answered yet can be left, and nobody answers it then.
     void hangingUp()
     {
         ToCMSocket::sendUI2CMSvcHangup(); // of nothing
-        ToCMSocket::sendUI2CMSvcDialer(0, "NORMAL", "1", "", "AUDIO", 2, -1);
-        QTRY_COMPARE(m_app->heard.value(2), QString("CONNECT 1"));
-        ToCMSocket::sendUI2CMSvcHangup();
-        QTRY_COMPARE(m_app->heard.value(3), QString("IDLE 1"));
-        // One that is not answered yet can be left too, and nobody answers it then.
         m_phone->writeFile("config/cm.conf", "[Dial]\nAlertTime=60000\n");
-        send(directory("NEW_CALL", "2"));
+        ToCMSocket::sendUI2CMSvcDialer(0, "NORMAL", "1", "", "AUDIO", 2, -1);
         ToCMSocket::sendUI2CMSvcHangup();
-        QTRY_COMPARE(m_app->heard.mid(4), (QStringList{"DIALING 2", "IDLE 2"}));
+        QTRY_COMPARE(m_app->heard, (QStringList{"DIALING 1", "IDLE 1"}));
     }
 
     void anotherCallIsRefused()
@@ -60,18 +54,6 @@ private slots:
         send(directory("NEW_CALL", "2"));
         QVERIFY(logs("A call was refused: another is under way"));
         QTRY_COMPARE(m_app->heard, (QStringList{"DIALING 1", "ALERT 1", "CONNECT 1"}));
-    }
-
-    void conferenceAndTransfer()
-    {
-        send(directory("COA_CONF", "3"));
-        QVERIFY(logs("there is no conversation"));
-        send(dialer("NORMAL", "1", "Ann"));
-        QTRY_COMPARE(m_app->heard.size(), 3);
-        send(directory("COA_CONF", "3"));
-        QTRY_COMPARE(m_app->heard.value(3), QString("CONNECT 1 Ann, 3"));
-        send(directory("SEMI_BLIND_XFER", "4"));
-        QTRY_COMPARE(m_app->heard.value(4), QString("IDLE 1 Ann, 3"));
     }
 
     void namesInTheCharsetOfThePhone()
@@ -84,44 +66,28 @@ private slots:
         QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 1 김"));
     }
 
-    void whatIsNoRequest_data()
-    {
-        QTest::addColumn<QByteArray>("datagram");
-        QTest::addColumn<QByteArray>("fault");
-        const auto row = [](const QByteArray &fault, const char *kind, const QByteArray &datagram) {
-            QTest::newRow(kind) << datagram << fault;
-        };
-        const QByteArray good = directory("NEW_CALL", "1");
-        row("it is no message", "empty", "");
-        row("it is no message", "something behind it", good + "x");
-        row("it is no message", "longer than the wire allows", directory("NEW_CALL", QByteArray(5000, '1')));
-        row("it is for another process", "for another", QByteArray(good).replace("CM/UI", "XCID/UI"));
-        row("there is no such request", "another signature",
-            message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}));
-        row("there is nothing to dial", "no number", dialer("NORMAL", "nobody", ""));
-        row("there is no such dial mode", "a dial mode", dialer("", "1", ""));
-        row("there is no such call mode", "a call mode", dialer("NORMAL", "1", "", "VIDEO"));
-        row("there is no such directory mode", "a directory mode", directory("OTHER", "1"));
-    }
-
     void whatIsNoRequest()
     {
-        QFETCH(QByteArray, datagram);
-        QFETCH(QByteArray, fault);
-        send(datagram);
-        QVERIFY(logs("A datagram was dropped: " + fault));
-        // It still serves, and nothing came of the other.
+        const QByteArray good = directory("NEW_CALL", "1");
+        const QList<QPair<QByteArray, QByteArray>> datagrams
+            = {{"", "it is no message"},
+               {good + "x", "it is no message"},
+               {directory("NEW_CALL", QByteArray(5000, '1')), "it is no message"},
+               {QByteArray(good).replace("CM/UI", "XCID/UI"), "it is for another process"},
+               {message_MakeFromValues({"CM/UI", "ui2cm_svc_dialer(str)", {QByteArray("1")}}),
+                "there is no such request"},
+               {dialer("NORMAL", "nobody", ""), "there is nothing to dial"},
+               {dialer("", "1", ""), "there is no such dial mode"},
+               {dialer("NORMAL", "1", "", "VIDEO"), "there is no such call mode"},
+               {directory("OTHER", "1"), "there is no such directory mode"}};
+        for (const auto &[datagram, fault] : datagrams) {
+            m_log.clear();
+            send(datagram);
+            QVERIFY2(logs("A datagram was dropped: " + fault), fault);
+        }
+        // It still serves, and nothing came of the others.
         send(directory("NEW_CALL", "7"));
         QTRY_COMPARE(m_app->heard.value(0), QString("DIALING 7"));
-    }
-
-    void aPortThatIsTaken()
-    {
-        QProcess second;
-        second.start(PHONE_PROGRAMS "/cm", {"--home", m_phone->home.root()});
-        QVERIFY(second.waitForFinished());
-        QCOMPARE(second.exitCode(), 1);
-        QVERIFY(second.readAllStandardError().contains("cannot be used"));
     }
 
 private:

@@ -1,12 +1,14 @@
 #include "apps/call/call.h"
+#include "apps/history/history.h"
 #include "callmanager.h"
+#include "message.h"
 #include "neighbourtest.h"
 
 #include <QDialog>
 
 using namespace PhoneKeys;
 
-/// The call screen: what the call manager tells, the strip over the contacts, and what is kept.
+/// The call screen: what the call manager tells, the strip over the contacts, and what the history keeps.
 class CallTest : public NeighbourTest<Call>
 {
     Q_OBJECT
@@ -37,25 +39,6 @@ private slots:
         QCOMPARE(history().size(), 1);
     }
 
-    void hidesAndShows()
-    {
-        QDialog modal;
-        modal.setModal(true);
-        QVERIFY(showAndActivate(&modal));
-        tell("DIALING");
-        QTRY_VERIFY(app()->isActiveWindow());
-        click(Qt::Key_Escape);
-        QTRY_VERIFY(modal.isActiveWindow());
-        tell("CONNECT");
-        QVERIFY(!app()->isVisible() && !strip());
-        QVERIFY(start());
-        app()->start(nullptr, nullptr);
-        QVERIFY(!app()->isVisible());
-        tell("IDLE");
-        app()->start(nullptr, nullptr); // of no call
-        QVERIFY(!app()->isVisible());
-    }
-
     void overTheContactsItIsAStrip()
     {
         receive("ShowPopup");
@@ -74,8 +57,7 @@ private slots:
         // The call goes over them, and away from them again.
         QVERIFY(start() && !strip());
         click(Qt::Key_Escape);
-        QTRY_VERIFY(contacts.isActiveWindow());
-        QVERIFY(strip());
+        QTRY_VERIFY(contacts.isActiveWindow() && strip());
         // They go, and say whether the strip goes with them.
         receive("m_isContactOpenedOff()");
         QVERIFY(strip());
@@ -84,25 +66,39 @@ private slots:
         receive("ShowPopup");
         tell("IDLE");
         QVERIFY(!strip() && !m_phone->status.presenceIconVisible());
-        // They may go before the answer.
-        tell("ALERT");
-        receive("m_isContactOpened()");
-        receive("ShowPopup");
-        QVERIFY(strip());
-        receive("m_isContactOpenedOff()");
-        QVERIFY(!strip());
     }
 
     void anotherNumberIsAnotherCall()
     {
         tell("CONNECT", "1", "");
         tell("DIALING", "2", "");
-        QTRY_VERIFY(app()->isActiveWindow());
         QCOMPARE(history().size(), 1);
         QCOMPARE(history().first().number, QString("1"));
         QCOMPARE(state(), QString("DIALING"));
         m_screen.reset(); // the phone goes off
         QCOMPARE(history().size(), 2);
+    }
+
+    void theHistoryCallsWithTheNameInThePhonesCharset()
+    {
+        const QDateTime now = QDateTime::currentDateTime();
+        for (const CallRecord &call :
+             QList<CallRecord>{{"5551", "Zoë Łukasik", CallRecord::Outgoing, now.addDays(-4), 75},
+                               {"5552", "김철수", CallRecord::Missed, now.addDays(-3), 0},
+                               {"5553", "", CallRecord::Incoming, now.addSecs(-120), 8},
+                               {"5551", "Zoë Łukasik", CallRecord::Outgoing, now.addSecs(-60), 3725}})
+            m_phone->core.callList()->addCall(call);
+        m_phone->writeFile("config/system.conf", "[System]\nCharset=euc-kr\n");
+        History screen;
+        screen.start(nullptr, nullptr);
+        QVERIFY(isOpen(&screen));
+        QCOMPARE(rows(&screen), (QStringList{"Zoë Łukasik", "5553", "김철수", "Zoë Łukasik"}));
+        TestScreen::shot("history");
+        QVariantList request;
+        message_SetObserver([&request](const Message &message) { request = message.arguments; });
+        clickAll({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        message_SetObserver({});
+        QCOMPARE(request.mid(2, 2), (QVariantList{QByteArray("5552"), QByteArray("\xb1\xe8\xc3\xb6\xbc\xf6")}));
     }
 
 private:

@@ -3,54 +3,34 @@
 
 using namespace PhoneKeys;
 
-/// The home screen: its ways into the applications and its favourite.
+/// The home screen and its favourite.
 class IdleTest : public NeighbourTest<Idle>
 {
     Q_OBJECT
 
 private slots:
-    void showsTheDirectoryOnce()
-    {
-        QStringList launched;
-        m_phone->core.setLauncher([&](const QString &name, void *) { launched.append(name); });
-        m_phone->writeFile("config/phone_info.conf", "[Directory_svc]\nAddr=server\n");
-        QVERIFY(start());
-        clickAll({Qt::Key_Context4, Qt::Key_Context1});
-        m_phone->core.setVisibleContact(true);
-        click(Qt::Key_Context1); // contacts that show already would end
-        QCOMPARE(launched, QStringList("contact"));
-        QCOMPARE(sent(), QStringList({"contact viewContactSearchDir(str) ", "contact viewContactSearchDir(str) "}));
-    }
-
     void okCallsTheFavouriteWhichFollowsItsContact()
     {
-        const struct
-        {
-            QString command;
-            QVariantList items;
-            QString favourite; // that was Anna with 100 before
-        } events[] = {
-            {Chosen, {"Bea", "+49 (30) 200"}, "+4930200 Bea"},
-            {Chosen, {"Bea", ""}, "100 Anna"},
-            {Updated, {"1 00", "Anne"}, "100 Anne"},
-            {Updated, {"200", "Anne"}, "100 Anna"},
-            {Updated, {"100"}, "100 Anna"},
-            {Deleted, {"100"}, ""},
-            {Deleted, {"200"}, "100 Anna"},
-            {Deleted, {""}, "100 Anna"},
-            {"contactAllDelete()", {}, ""},
-        };
-        QVERIFY(start());
-        QCOMPARE(called(), QString());
-        for (const auto &event : events) {
+        // A command and its items, and the favourite after it, which was Anna with 100 before.
+        const QList<std::tuple<QString, QVariantList, QString>> events
+            = {{Chosen, {"Bea", "+49 (30) 200"}, "+4930200 Bea"},
+               {Chosen, {"Bea", ""}, "100 Anna"},
+               {Updated, {"1 00", "Anne"}, "100 Anne"},
+               {Updated, {"200", "Anne"}, "100 Anna"},
+               {Updated, {"100"}, "100 Anna"},
+               {Deleted, {"100"}, ""},
+               {Deleted, {"200"}, "100 Anna"},
+               {Deleted, {""}, "100 Anna"},
+               {"contactAllDelete()", {}, ""}};
+        for (const auto &[command, items, favourite] : events) {
             remake();
             QVERIFY(start());
             receive(Chosen, {"Anna", "100"});
-            receive(event.command, event.items);
-            QCOMPARE(called(), event.favourite);
+            receive(command, items);
+            QCOMPARE(called(), favourite);
             remake();
             QVERIFY(start());
-            QCOMPARE(called(), event.favourite);
+            QCOMPARE(called(), favourite);
         }
         receive(Chosen, {"Maximiliane von und zu Hohenlohe-Schillingsfürst", "100"});
         receiveSenseless({Chosen, Updated, Deleted, "unknown(str)", "contactDeletedNumber"});

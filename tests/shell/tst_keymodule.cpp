@@ -17,21 +17,15 @@ private slots:
         QVERIFY(start());
         TestScreen::shot("keymodule");
         QCOMPARE(static_cast<ListViewSubTitleItem *>(list()->item(2))->subTitle(1)->text(), QString("+4930100200"));
-        sent();
         click(Qt::Key_Return); // on the last that came
-        QCOMPARE(sent(),
-                 QStringList{"CM ui2cm_svc_dialer(int,str,str,str,str,int,int) 0 NORMAL +4930100200 Anna "
-                             "Adams AUDIO 2 -1"});
+        QVERIFY(sent().last().endsWith("NORMAL +4930100200 Anna Adams AUDIO 2 -1"));
         click(Qt::Key_Context3);
         QCOMPARE(rows(), QStringList({"Name 1", "Name 2"}));
         clickAll({Qt::Key_Up, Qt::Key_Context3});
         QCOMPARE(rows(), QStringList{"Name 2"});
-        click(Qt::Key_Context3);
+        clickAll({Qt::Key_Context3, Qt::Key_Context3, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});
         QCOMPARE(softKeys(), QStringList({"Add", "", "", "Close"}));
-        clickAll({Qt::Key_Context3, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});
         QCOMPARE(rows() + sent(), QStringList());
-        click(Qt::Key_Context4);
-        QVERIFY(!app()->isVisible());
     }
 
     void isFullAtSomePoint()
@@ -47,15 +41,11 @@ private slots:
     void keepsItsKeys()
     {
         const QString name = "김철수, \"Kim\"; [=]";
-        addKeys(2);
+        addKeys(1);
         receive(Chosen, {name, "0101234"});
         receiveSenseless({Chosen, "unknown(str)", "searchContactResult"});
         remake();
-        QCOMPARE(rows(), QStringList({"Name 1", "Name 2", name}));
-        QVERIFY(start());
-        click(Qt::Key_Context3); // shorter than before
-        remake();
-        QCOMPARE(rows(), QStringList({"Name 2", name}));
+        QCOMPARE(rows(), QStringList({"Name 1", name}));
         m_phone->writeFile(
             "config/aom.ini",
             "[Keys]\nsize=2000000000\n1\\Name=Adams, Anna\n1\\Number=100\n2\\Name=None\n3\\Number=x\n");

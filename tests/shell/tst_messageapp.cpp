@@ -21,21 +21,18 @@ private slots:
         QVERIFY(start());
         click(Qt::Key_Context1);
         QVERIFY(formIsOpen());
-        QCOMPARE(softKeys(form()), QStringList({"Close", "Search", "Erase", "Send"}));
         QCOMPARE(m_phone->core.getIMEStatus(), IMENumeric);
         type("()");
         toText();
         QCOMPARE(m_phone->core.getIMEStatus(), IMESmall);
-        type("Helloo");
-        click(Qt::Key_Context3);
-        QCOMPARE(text(), QString("Hello"));
+        type("Hello");
         press(Qt::Key_Context3);
         QTRY_COMPARE(text(), QString()); // while it is held
         release(Qt::Key_Context3);
         sendForm("Enter a number");
         QCOMPARE(list(form())->selectedIdx(), 0);
         type("2-00");
-        QCOMPARE(details(), QString("Anna"));
+        QCOMPARE(list(form())->item(2)->text(), QString("Anna"));
         toText();
         type("  ");
         sendForm("Enter a text");
@@ -45,32 +42,10 @@ private slots:
         QCOMPARE(toast(), QString("Sent"));
         TestScreen::shot("message-sent");
         QTRY_VERIFY(app()->isActiveWindow()); // the toast goes by itself, and the form with it
-        QCOMPARE(title(), QString("Messages | Sent (1)"));
         QCOMPARE(rows(), QStringList{"Anna"});
         TestScreen::shot("messages");
         QCOMPARE(static_cast<ListViewSubTitleItem *>(list()->item(0))->subTitle(0)->text(),
                  QString("  Hello, are you there?"));
-        click(Qt::Key_Context1);
-        QVERIFY(formIsOpen());
-        QCOMPARE(receiver() + text(), QString());
-    }
-
-    void aMessageDuringTheToastKeepsItsForm()
-    {
-        QVERIFY(openNew("100"));
-        type("Hello");
-        click(Qt::Key_Context4);
-        QCOMPARE(toast(), QString("Sent"));
-        receive("newMessage(str)", {"200"});
-        settle();
-        QCOMPARE(toast(), QString());
-        QVERIFY(form()->isVisible());
-        type("Bye");
-        QCOMPARE(receiver() + text(), QString("200Bye"));
-        app()->end();
-        receive("setReceiver(str)", {"300"});
-        QVERIFY(formIsOpen());
-        QCOMPARE(receiver() + text(), QString("300"));
     }
 
     void sendsAgainAndDeletes()
@@ -87,50 +62,17 @@ private slots:
         QCOMPARE(receiver() + text(), QString("100Hello"));
         sendForm("Sent");
         QVERIFY(isOpen(app()));
-        QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}));
-        QCOMPARE(list()->selectedIdx(), 0);
+        QStringList left{"100", "300", "200", "100"};
+        QCOMPARE(rows(), left);
         click(Qt::Key_Up);
-        for (int left = 3; left >= 0; --left) {
+        while (!left.isEmpty()) {
             click(Qt::Key_Context3);
-            QCOMPARE(list()->selectedIdx(), left - 1);
-            QCOMPARE(rows(), QStringList({"100", "300", "200", "100"}).mid(0, left));
+            left.removeLast();
+            QCOMPARE(rows(), left);
         }
         QCOMPARE(softKeys(), QStringList({"New", "", "", "Close"}));
-        click(Qt::Key_Return);
-        QVERIFY(!form()->isVisible());
         remake();
         QCOMPARE(rows(), QStringList());
-    }
-
-    void keepsTheNewest()
-    {
-        m_screen.reset();
-        {
-            SentMessages store(m_phone->home.path("data/messages.db"));
-            for (int i = 1; i <= SentMessages::MostMessages + 2; ++i)
-                QVERIFY(store.add(QString::number(i), "Text", QDateTime::currentDateTime().addDays(-i)));
-        }
-        remake();
-        QCOMPARE(rows().size(), SentMessages::MostMessages);
-        QCOMPARE(rows().last(), QString("3"));
-    }
-
-    void aFileThatIsNoDatabase()
-    {
-        const QByteArray garbage(4096, 'x');
-        m_screen.reset();
-        QFile file(m_phone->home.path("data/messages.db"));
-        QVERIFY(file.remove());
-        m_phone->writeFile("data/messages.db", garbage);
-        expectWarning("not a database");
-        expectWarning("cannot be kept in");
-        remake();
-        QVERIFY(openNew("100"));
-        type("Hello");
-        sendForm("Failed");
-        QCOMPARE(text(), QString("Hello"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), garbage);
     }
 
     void senselessMessages()
@@ -153,7 +95,6 @@ private:
     /// What stands in the form.
     QString receiver() { return field(0); }
     QString text() { return field(1); }
-    QString details() { return list(form())->item(2)->text(); }
     QString toast()
     {
         const auto *shown = form()->findChild<Toast *>();

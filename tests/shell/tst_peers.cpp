@@ -25,14 +25,15 @@ private slots:
             peers.start();
             // Nobody has to wait for it any more.
             QVERIFY(getPeerPort("CM") != 0 && getPeerPort("XCID") != 0);
-            const pid_t first = managerOf(peers);
+            const auto *manager = peers.findChild<PeerProcess *>(); // the first of them
+            const auto first = pid_t(manager->processId());
             expectWarning("cm ended .* and is started again");
             ::kill(first, SIGKILL);
             QVERIFY(gone.wait());
             QCOMPARE(gone.first().first().toString(), QString("CM"));
             QCOMPARE(getPeerPort("CM"), quint16(0));
             QTRY_VERIFY(getPeerPort("CM") != 0);
-            second = managerOf(peers);
+            second = pid_t(manager->processId());
             QVERIFY(second != first && ::kill(second, 0) == 0);
         }
         QVERIFY(::kill(second, 0) != 0);
@@ -52,23 +53,6 @@ private slots:
         }
         peers.start();
         QTRY_COMPARE(gone.size(), 6);
-    }
-
-    void aMissingProgram()
-    {
-        Peers peers(m_phone->home, m_phone->home.root());
-        for (const char *warning :
-             {"cm cannot be started", "cm gives no port", "xcid cannot be started", "xcid gives no port"})
-            expectWarning(warning);
-        peers.start();
-        QCOMPARE(getPeerPort("CM") + getPeerPort("XCID"), 0);
-    }
-
-private:
-    /// The call manager is the first of them.
-    static pid_t managerOf(const Peers &peers)
-    {
-        return static_cast<pid_t>(peers.findChild<PeerProcess *>()->processId());
     }
 };
 

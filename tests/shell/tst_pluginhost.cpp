@@ -1,4 +1,3 @@
-#include "baseappinterface.h"
 #include "phonetest.h"
 #include "pluginhost.h"
 #include "pluginverification.h"
@@ -9,22 +8,6 @@ class PluginHostTest : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void loadsTheContactApplication()
-    {
-        PluginHost host;
-        BaseAppInterface *app = host.load(PHONE_PROGRAMS "/contact.so");
-        QVERIFY(app);
-        QCOMPARE(m_phone->core.getAppMap().value("contact"), app);
-        auto *object = dynamic_cast<QObject *>(app);
-        QVERIFY(object && object->qt_metacast("Contact") && object->qt_metacast("BaseAppInterface"));
-        QCOMPARE(object->qt_metacast(BaseAppInterface_iid), static_cast<void *>(app));
-        // The plug-in gives the same object as long as it lives, and a new one after that.
-        QCOMPARE(host.load(PHONE_PROGRAMS "/contact.so"), app);
-        host.unload();
-        QVERIFY(m_phone->core.getAppMap().isEmpty());
-        QVERIFY(host.load(PHONE_PROGRAMS "/contact.so"));
-    }
-
     void refusesWhatIsNoPlugin()
     {
         PluginHost host;

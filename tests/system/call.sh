@@ -11,14 +11,6 @@ dial() {
     printf "CM/UI\\0$signature\\0\\0\\0\\0\\0$(text NORMAL)$(text "$1")$(text "$2")$(text AUDIO)\\0\\0\\0\\002\\377\\377\\377\\377" \
         >"/dev/udp/127.0.0.1/$(port)"
 }
-children() { ps -o pid= --ppid "$phone"; }
-gone() {
-    for _ in {1..50}; do
-        kill -0 "$1" 2>/dev/null || return 0
-        sleep 0.1
-    done
-    return 1
-}
 
 phoneui --empty --no-peers --script /dev/null
 [ "$(port)" = 0 ] || fail "a port without a call manager"
@@ -64,9 +56,9 @@ stop_phone
 
 # A phone that is killed takes its processes along.
 start_phone
-manager=$(children)
-[ -n "$manager" ] || fail "no process beside the phone"
+peers=$(ps -o pid= --ppid "$phone")
+[ -n "$peers" ] || fail "no process beside the phone"
 kill -KILL "$phone"
 wait "$phone" 2>/dev/null || true
 phone=
-gone $manager || fail "the call manager outlives its phone"
+for each in $peers; do timeout 5 tail --pid="$each" -f /dev/null || fail "a process outlives its phone"; done

@@ -13,7 +13,7 @@ phonectl send contact 'api2ui_noti_contact_changed()' # leaves it in front
 phonectl expect rows 'Personal Phonebook' 'System Phonebook'
 phonectl key Ok
 phonectl expect title 'Contacts | All (0/0)'
-phonectl key Esc
+phonectl key Soft3 Esc # leaves managing, and the grid
 phonectl expect rows 'Personal Phonebook' 'System Phonebook'
 phonectl key Esc
 phonectl expect screen Idle

@@ -42,7 +42,8 @@ whole_road --empty
 openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=127.0.0.1 -addext subjectAltName=IP:127.0.0.1 \
     -keyout "$work/key.pem" -out "$PHONE_HOME/config/authority.pem" 2>/dev/null
 printf '[Tls]\nAuthority=config/authority.pem\n' >"$PHONE_HOME/config/xcid.conf"
-serve https "${directory[@]}" --tls "$PHONE_HOME/config/authority.pem" "$work/key.pem"
+tls=("${directory[@]}" --tls "$PHONE_HOME/config/authority.pem" "$work/key.pem")
+serve https "${tls[@]}"
 rm "$PHONE_HOME"/data/contacts.db*
 whole_road
 
@@ -68,8 +69,14 @@ printf '[Prov]\nPassword=wrong\n' >"$PHONE_HOME/config/secret.ini"
 nothing_comes 1
 stop_server
 nothing_comes 2
+serve https "${tls[@]}"
+sed -i s/127.0.0.1/localhost/ "$PHONE_HOME/config/phone_info.conf"
+nothing_comes 3 # the certificate is for another name
 printf '[Limits]\nTime=1500\nSize=1000000\n' >"$PHONE_HOME/config/xcid.conf"
-fetches=2
+serve https "${tls[@]}"
+nothing_comes 4 # nobody knows its authority
+[ "$(grep -c 'its certificate is refused' "$work/log")" -eq 2 ] || fail "a certificate that nobody checks"
+fetches=4
 for fault in cut empty huge drip; do
     serve http python3 "$here/evilserver.py" $fault
     nothing_comes $((++fetches))

@@ -4,7 +4,9 @@
 
 cd "$work"
 phoneui --empty --no-peers --platform offscreen --script "$here/neighbours.keys"
-[ "$(find "$PHONE_HOME/ringtones/basicring" -name '*.wav' -size +30k | wc -l)" -eq 7 ] || fail "the ring tones"
+tones() { find "$PHONE_HOME/ringtones/basicring" -name '*.wav' -size +30k | wc -l; }
+[ "$(tones)" -eq 7 ] || fail "the ring tones"
+rm "$PHONE_HOME/ringtones/basicring/Bell.wav"
 
 start_phone --no-peers
 phonectl launch message
@@ -15,3 +17,4 @@ phonectl expect rows "Anna Adams"
 phonectl key Soft3
 phonectl expect title "Key Module"
 stop_phone
+[ "$(tones)" -eq 6 ] || fail "a tone that its owner removed is there again"

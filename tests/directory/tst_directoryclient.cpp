@@ -1,5 +1,7 @@
-// What the directory asks for, byte by byte.
+// What the directory asks for, byte by byte, and what it makes of the answers.
 
+#include "directorydocument.h"
+#include "directorysettings.h"
 #include "directorytexts.h"
 #include "directorytransport.h"
 #include "directoryurl.h"
@@ -14,7 +16,12 @@
 
 static const char CallManagerState[] = "/tmp/cminfo";
 
-class DirectoryRequestsTest : public TestCase
+static QByteArray data(const QByteArray &value)
+{
+    return "<data><type>name</type><value>" + value + "</value></data>";
+}
+
+class DirectoryClientTest : public TestCase
 {
     Q_OBJECT
 
@@ -38,19 +45,18 @@ private slots:
 
     void searchUrls()
     {
+        const QByteArray plain = "http://7:p@a/servlet/DService";
         // Settings, the proxy, key and kind; the beginning of the address and the key in it, nothing without one.
         const QList<QByteArrayList> rows = {
-            {"Addr=a\nPort=81\n", "", "kim", "name", "http://7:p@a/servlet/DService", "kim"},
+            {"Addr=a\nPort=81\n", "", "kim", "name", plain, "kim"},
             {"Addr=a\nType=HttpS\nPort=81\n", "", "kim", "name", "https://7:p@a:81/servlet/DService", "kim"},
             {"Addr=a\nType=https\n", "", "kim", "name", "https://7:p@a:/servlet/DService", "kim"},
             {"Addr=a\nPath=/x/y\n", "", "kim", "name", "http://7:p@a//x/y", "kim"},
             {"Addr=http://a\n", "", "kim", "name", "7:p@http://a/servlet/DService", "kim"},
             {"Addr=HTTP://a\n", "", "kim", "name", "http://7:p@HTTP://a/servlet/DService", "kim"},
-            {"Addr=a\n", "", "  ", "NAME", "http://7:p@a/servlet/DService", ""},
-            {"Addr=a\n", "", " 김 &=?+/% ", "name", "http://7:p@a/servlet/DService",
-             "%EA%B9%80%20%26%3D%3F%2B%2F%25"},
-            {"Addr=a\n[Directory_svc_SS]\nAddr=b\n", "secondary", "k", "name", "http://7:p@a/servlet/DService",
-             "k"},
+            {"Addr=a\n", "", "  ", "NAME", plain, ""},
+            {"Addr=a\n", "", " 김 &=?+/% ", "name", plain, "%EA%B9%80%20%26%3D%3F%2B%2F%25"},
+            {"Addr=a\n[Directory_svc_SS]\nAddr=b\n", "secondary", "k", "name", plain, "k"},
             {"Addr=a\n[Directory_svc_SS]\nAddr=b\n", "SECONDARY", "k", "name", "http://7:p@b/servlet/DService",
              "k"},
             {"Addr=a\n", "SECONDARY", "kim", "name", "", ""},
@@ -87,7 +93,6 @@ private slots:
         QCOMPARE(getPortNumber("XCID", "PORT"), 0);
         QCOMPARE(getPortNumber("CM", "Port"), 70000);
         QCOMPARE(getPortNumber("CM", "Other"), 0);
-        sendUI2CMDirectoryServiceRequest(-1, "NEW_CALL", "1"); // to where nobody listens
         qunsetenv("CONFIG_LIST");
         QCOMPARE(getPortNumber("XCID", "Port"), 0);
         sendUI2HTTPDirectorySearchCancel(); // to nowhere
@@ -123,6 +128,66 @@ private slots:
         QCOMPARE(sent([] { directoryServiceRequest(0, "", "x"); }), QByteArray("end"));
     }
 
+    void aPage()
+    {
+        QByteArray items;
+        for (int i = 0; i < 20; ++i)
+            items += "<item>" + data(QByteArray::number(i)) + data("x") + "</item>\n<other/>";
+        const auto results
+            = load("<any>" + items + "<display count='57' path=' /p ' timestamp='42'/><item/></any>");
+        QCOMPARE(results.size(), 21);
+        QCOMPARE(m_total, 57);
+        QCOMPARE(results.at(19).at(0).getValue(), QString("19"));
+        QCOMPARE(results.at(19).at(1).getIndex(), 1);
+        QVERIFY(results.at(20).isEmpty());
+        QCOMPARE(DirectorySettings::path(), QString("/p"));
+        QCOMPARE(DirectorySettings::timeStamp(), QString("42"));
+        // An answer that does not carry the handles of the prepared pages leaves those of the answer before.
+        QCOMPARE(load("<r><display path=''/><item>" + data("x") + "</item></r>").size(), 1);
+        QCOMPARE(m_total, 0);
+        QCOMPARE(DirectorySettings::path(), QString(""));
+        QCOMPARE(DirectorySettings::timeStamp(), QString("42"));
+    }
+
+    void fields()
+    {
+        // An element, its type and value, a number to call.
+        const QList<std::tuple<QByteArray, QString, QString, bool>> elements
+            = {{"<data/>", "", "", false},
+               {"<data isphone='TRUE'/>", "", "", true},
+               {"<data isphone='1' fontsize='big'/>", "", "", true},
+               {"<data isphone='01'/>", "", "", false},
+               {"<data><type>\tnumber </type><value> \n1 2\n </value></data>", "number", "\n1 2\n", false}};
+        for (const auto &[element, type, value, isPhone] : elements) {
+            const DirectoryData field = load("<r><item>" + element + "</item></r>").value(0).value(0);
+            QCOMPARE(field.getType(), type);
+            QCOMPARE(field.getValue(), value);
+            QCOMPARE(field.getIsPhone(), isPhone);
+            QCOMPARE(field.getLabel(), QString());
+        }
+    }
+
+    /// The phone's charset decides, whatever the document says of itself.
+    void charset()
+    {
+        const QByteArray document = "<r><display charset='utf-8'/><item>" + data("\xb1\xe8") + "</item></r>";
+        m_phone->writeFile("config/system.conf", "[System]\nCharset=EUC-KR\n");
+        QCOMPARE(load(document).at(0).at(0).getValue(), QString::fromUtf8("\xea\xb9\x80"));
+    }
+
+    void damagedAnswers()
+    {
+        for (const auto &[document, results] :
+             {std::pair(QByteArray(), 0),
+              {"404 not found", 0},
+              {"<r><item>" + data("1") + "</item><item>" + data("2") + "</item><item><da", 3},
+              {"<r><item>" + data("1") + "</item></s><item/>", 1}}) {
+            QCOMPARE(load(document).size(), results);
+            QCOMPARE(m_total, 0);
+        }
+        QVERIFY(loadData("/nowhere/answer.xml", &m_total).isEmpty());
+    }
+
 private:
     void provision(const QByteArray &info, const QByteArray &proxy = "")
     {
@@ -133,8 +198,18 @@ private:
             state.write("[LINE_0]\nPROXY=" + proxy);
     }
 
+    QList<QList<DirectoryData>> load(const QByteArray &document)
+    {
+        m_phone->writeFile("answer.xml", document);
+        QFile file(m_phone->home.path("answer.xml"));
+        const QList<QList<DirectoryData>> results = loadData(file.fileName().toLatin1(), &m_total);
+        [&] { QVERIFY(!file.exists()); }();
+        return results;
+    }
+
     std::unique_ptr<TestPhone> m_phone;
+    int m_total = -1;
 };
 
-PHONE_TEST_MAIN(DirectoryRequestsTest)
-#include "tst_directoryrequests.moc"
+PHONE_TEST_MAIN(DirectoryClientTest)
+#include "tst_directoryclient.moc"
