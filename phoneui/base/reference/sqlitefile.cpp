@@ -187,7 +187,9 @@ SqliteFile::Verdict SqliteFile::judgeContent(QString *reason)
 
 bool SqliteFile::prepareConnection()
 {
-    return execute(QStringLiteral("PRAGMA journal_mode = WAL"))
+    // Before each statement of many rows SQLite keeps the pages that it changes: in memory, not in a file.
+    return execute(QStringLiteral("PRAGMA temp_store = MEMORY"))
+        && execute(QStringLiteral("PRAGMA journal_mode = WAL"))
         && execute(QStringLiteral("PRAGMA synchronous = FULL"))
         && execute(QStringLiteral("PRAGMA foreign_keys = ON"));
 }
