@@ -10,7 +10,6 @@
 #include "textrecorder.h"
 #include "toast.h"
 
-#include <QFile>
 #include <QPainter>
 
 class FitTest : public TestCase
@@ -49,10 +48,8 @@ void FitTest::everyTextHasRoom()
     m_apps.reset(new EveryApp(language));
     m_apps->idle.start(nullptr, nullptr);
     PhoneScript script;
-    QFile roads(QFINDTESTDATA("roads.txt"));
-    QVERIFY(roads.open(QIODevice::ReadOnly));
-    while (!roads.atEnd())
-        addRoad(&script, QString::fromUtf8(roads.readLine()).trimmed());
+    for (const QByteArray &road : readFile(QFINDTESTDATA("roads.txt")).split('\n'))
+        addRoad(&script, QString::fromUtf8(road).trimmed());
     m_faults = QStringList();
     m_pictures.clear();
     m_seen.clear();
@@ -78,10 +75,10 @@ QStringList FitTest::unseenTexts()
     QStringList unseen;
     for (const char *catalogue : {"toolkit/translations/toolkit.ts", "shell/translations/shell.ts",
                                   "apps/contact/translations/contact.ts"}) {
-        QFile file(QFINDTESTDATA(QString("../../phoneui/") + catalogue));
-        if (!file.open(QIODevice::ReadOnly))
+        const QByteArray words = readFile(QFINDTESTDATA(QString("../../phoneui/") + catalogue));
+        if (words.isEmpty())
             qWarning("%s cannot be read", catalogue);
-        auto matches = translation.globalMatch(QString::fromUtf8(file.readAll()));
+        auto matches = translation.globalMatch(QString::fromUtf8(words));
         while (matches.hasNext()) {
             const QString text = matches.next().captured(1).replace("&gt;", ">").replace("&lt;", "<");
             const QStringList pieces = text.split(border);
@@ -111,16 +108,14 @@ void FitTest::addRoad(PhoneScript *script, const QString &road)
 
 std::function<void()> FitTest::action(const QString &word)
 {
-    if (word == "@")
-        return [this] { look(); };
-    if (word == "people")
-        return [this] { m_apps->addPeople(); };
-    if (word == "book")
-        return [this] { m_apps->addPhonebook(); };
-    if (word == "directory")
-        return [this] { m_apps->addDirectory(); };
-    if (word == "found" || word == "nothing")
-        return [this, word] { m_apps->answer(word == "found"); };
+    const QMap<QString, std::function<void()>> actions{{"@", [this] { look(); }},
+                                                       {"people", [this] { m_apps->addPeople(); }},
+                                                       {"book", [this] { m_apps->addPhonebook(); }},
+                                                       {"directory", [this] { m_apps->addDirectory(); }},
+                                                       {"found", [this] { m_apps->answer(true); }},
+                                                       {"nothing", [this] { m_apps->answer(false); }}};
+    if (actions.contains(word))
+        return actions.value(word);
     if (word.startsWith('='))
         return [word] { PhoneKey::postText(word.mid(1)); };
     const QStringList parts = word.split(':');
@@ -131,7 +126,7 @@ std::function<void()> FitTest::action(const QString &word)
         return [this, parts] { m_apps->addGroups(parts.at(1).toInt()); };
     if (what == "send") {
         const QStringList items = parts.mid(3);
-        return [this, parts, items] { m_apps->send(parts.at(1), parts.at(2), QVariant(items).toList()); };
+        return [this, parts, items] { m_apps->phone.send(parts.at(1), parts.at(2), QVariant(items).toList()); };
     }
     if (what == "toast") {
         const QString text = QString(parts.at(2)).replace("\\n", "\n").remove('\\');
