@@ -153,7 +153,6 @@ private:
         QVERIFY(m_contacts->open());
     }
     void tell(const QString &command) { send("contact", command); }
-    bool isOpen() const { return m_contacts->app.isVisible(); }
 
     std::unique_ptr<ContactScreen> m_contacts;
 };

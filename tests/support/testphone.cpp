@@ -5,15 +5,15 @@
 
 #include <QProcess>
 
-PhoneHome TestPhone::makeHome(const QTemporaryDir &folder)
+PhoneHome TestPhone::makeHome(const QString &folder)
 {
-    const PhoneHome home(folder.path());
+    const PhoneHome home(folder);
     home.create();
     home.enter();
     return home;
 }
 
-TestPhone::TestPhone() : home(makeHome(folder)), core(home)
+TestPhone::TestPhone() : home(makeHome(folder.path())), core(home)
 {
     status.setGeometry(0, 0, 384, 26);
     core.setStatusWidget(&status);

@@ -29,6 +29,8 @@ public:
     void disconnectMobile();
     /// Provisions a system phonebook that announces this many entries.
     void provisionPhonebook(int count);
+    /// A home in that folder, for this process.
+    static PhoneHome makeHome(const QString &folder);
     void writeFile(const QString &relative, const QByteArray &content);
     /// Sends an application what another one would send it.
     void send(const QString &app, const QString &command, const QVariantList &items);
@@ -39,7 +41,6 @@ public:
     Status status;
 
 private:
-    static PhoneHome makeHome(const QTemporaryDir &folder);
     void runWpsm(const QStringList &arguments);
 };
 
