@@ -1,8 +1,7 @@
 #include "contactmanager.h"
+#include "people.h"
 #include "testcase.h"
 #include "textcodec.h"
-
-#include <QTemporaryDir>
 
 /// The contact store as its users see it, on a real file, and which word finds whom.
 class TestContactStore : public TestCase
@@ -170,20 +169,9 @@ private slots:
     }
 
 private:
-    void setUp() override
-    {
-        m_dir.reset(new QTemporaryDir);
-        m_store.reset(new ContactManager(path()));
-    }
+    void setUp() override { m_store.reset(new ContactManager(path())); }
     QString path() const { return m_dir->filePath("contacts.db"); }
 
-    static ContactData person(const QString &name, const QStringList &numbers = {})
-    {
-        ContactData contact;
-        contact.name = name;
-        contact.setNumbers(numbers, {});
-        return contact;
-    }
     int add(const QString &name, const QStringList &numbers = {})
     {
         return m_store->saveContact(person(name, numbers), false);
@@ -194,7 +182,6 @@ private:
     }
     int found(const QString &word) const { return m_store->getContactSearchResults(word).size(); }
 
-    QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<ContactManager> m_store;
 };
 

@@ -2,6 +2,7 @@
 // there.
 
 #include "contactmanager.h"
+#include "people.h"
 #include "testcase.h"
 
 #include <QCoreApplication>
@@ -11,15 +12,6 @@
 #include <QThread>
 
 #include <cstdio>
-
-static ContactData person(const QString &name)
-{
-    ContactData contact;
-    contact.name = name;
-    contact.setNumbers({"1", "2"}, {});
-    contact.memo = QString(200, QChar('m'));
-    return contact;
-}
 
 // The same row of operations for the writer and for who looks at what is left of it.
 enum Operation { Save, DeleteOldest, DeleteAll };
@@ -42,7 +34,7 @@ static int write(const QString &database)
     for (int step = 0; step < 10000; ++step) {
         const int oldest = store.getAllContacts().value(0).id;
         const Operation operation = operationAt(step);
-        const int done = operation == Save ? store.saveContact(person(nameAt(step)), false)
+        const int done = operation == Save ? store.saveContact(person(nameAt(step), {"1", "2"}, 200), false)
             : operation == DeleteOldest    ? store.deleteContact(oldest, ContactData::LocalContact)
                                            : store.deleteAllContacts();
         if (!done)

@@ -1,33 +1,11 @@
-#include "baseappinterface.h"
 #include "conffile.h"
 #include "contactmanager.h"
-#include "core.h"
 #include "testcase.h"
+#include "testphone.h"
 #include "textcodec.h"
 #include "topresencesocket.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
-
-/// An application that keeps what it receives.
-class Listener final : public BaseAppInterface
-{
-public:
-    explicit Listener(const QString &name) : BaseAppInterface(name, nullptr) { }
-    ~Listener() = default;
-
-    bool start(QWidget *, void *) override { return true; }
-    void end() override { }
-    void receiveMsg(const QString &command, const QByteArray &payload) override
-    {
-        received.append(command + '|' + payload);
-        if (onReceive)
-            onReceive();
-    }
-
-    QStringList received;
-    std::function<void()> onReceive;
-};
 
 /// The services of the platform library in a home of their own.
 class TestPlatform : public TestCase
@@ -37,11 +15,10 @@ class TestPlatform : public TestCase
 private slots:
     void home()
     {
-        QFile photo(m_home->photoFolder() + "/x.png");
-        QVERIFY(photo.open(QIODevice::WriteOnly));
+        const QString photo = writeFile(m_home->photoFolder() + "/x.png", "");
         QVERIFY(QFile::exists("photo:x.png"));
         expectWarning("cannot make the folder");
-        QVERIFY(!PhoneHome(photo.fileName()).create());
+        QVERIFY(!PhoneHome(photo).create());
         set("config/secret.ini", "Prov/Password", "a,b;c");
         QVERIFY(m_home->create()); // keeps what is there
         QCOMPARE(m_core->getProvPassword(), QString("a,b;c"));
@@ -56,26 +33,26 @@ private slots:
 
     void messages()
     {
-        Listener contact("contact");
+        ListeningApp contact("contact");
         m_core->sendAppMsg("contact", "first(str)", "1");
         m_core->sendAppMsg("call", "lost()", "");
         m_core->sendAppMsg("contact", "second()", "");
-        QVERIFY(contact.received.isEmpty());
+        QVERIFY(contact.commands.isEmpty());
         QCoreApplication::processEvents();
-        QCOMPARE(contact.received, QStringList({"first(str)|1", "second()|"}));
+        QCOMPARE(contact.commands, QStringList({"first(str)", "second()"}));
         // Looked up when it arrives: an application that has gone by then gets nothing.
         {
-            const Listener call("call");
+            const ListeningApp call("call");
             m_core->sendAppMsg("call", "late()", "");
         }
         QCoreApplication::processEvents();
         // A handler may run a loop, in which the next message comes.
         QEventLoop loop;
-        contact.onReceive = [&] { contact.received.size() == 3 ? void(loop.exec()) : loop.quit(); };
+        contact.onReceive = [&] { contact.commands.size() == 3 ? void(loop.exec()) : loop.quit(); };
         m_core->sendAppMsg("contact", "opens a screen", "");
         m_core->sendAppMsg("contact", "closes it", "");
         QCoreApplication::processEvents();
-        QCOMPARE(contact.received.size(), 4);
+        QCOMPARE(contact.commands.size(), 4);
     }
 
     void settings()
@@ -110,7 +87,6 @@ private slots:
 private:
     void setUp() override
     {
-        m_dir.reset(new QTemporaryDir);
         m_home.reset(new PhoneHome(m_dir->filePath("home")));
         QVERIFY(m_home->create());
         m_home->enter();
@@ -120,14 +96,12 @@ private:
     {
         m_core.reset();
         qunsetenv("CONFIG_LIST");
-        m_dir.reset();
     }
     void set(const QString &file, const QString &key, const QVariant &value) const
     {
         QSettings(m_home->path(file), QSettings::IniFormat).setValue(key, value);
     }
 
-    QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<PhoneHome> m_home;
     QScopedPointer<Core> m_core;
 };

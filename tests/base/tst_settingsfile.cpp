@@ -4,14 +4,11 @@
 
 #include <QDir>
 #include <QSettings>
-#include <QTemporaryDir>
 
 /// Small files of settings: what is kept comes back, here and in QSettings, and nothing that lies there does harm.
 class SettingsFileTest : public TestCase
 {
     Q_OBJECT
-
-    void setUp() override { m_folder.reset(new QTemporaryDir); }
 
 private slots:
     void keepsTexts()
@@ -29,15 +26,13 @@ private slots:
             }
         }
         QCOMPARE(SettingsFile(path()).value("Other/Key"), QString("kept"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files).size(), 1);
     }
 
     void readsPlainTexts()
     {
-        QFile text(path());
-        QVERIFY(text.open(QIODevice::WriteOnly));
-        text.write("[A]\nlist=x, y\nobject=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\fQSize)\nflag=True\nnumber=12x\n");
-        text.close();
+        writeFile(path(),
+                  "[A]\nlist=x, y\nobject=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\fQSize)\nflag=True\nnumber=12x\n");
         const SettingsFile file(path());
         QCOMPARE(file.value("A/list"), QString("x, y"));
         QVERIFY(file.value("A/object").startsWith("@Variant("));
@@ -48,7 +43,7 @@ private slots:
     /// A link in a folder that everybody may write to is neither followed nor written through.
     void refusesWhatOthersPut()
     {
-        const QString target = m_folder->filePath("target");
+        const QString target = m_dir->filePath("target");
         SettingsFile elsewhere(target);
         elsewhere.set("A/key", "theirs");
         QVERIFY(elsewhere.save());
@@ -63,12 +58,11 @@ private slots:
         QCOMPARE(SettingsFile(target).value("A/key"), QString("theirs"));
 
         expectWarning("cannot keep .*nowhere");
-        QVERIFY(!SettingsFile(m_folder->filePath("nowhere/settings.ini")).save());
+        QVERIFY(!SettingsFile(m_dir->filePath("nowhere/settings.ini")).save());
     }
 
 private:
-    QString path() const { return m_folder->filePath("settings.ini"); }
-    QScopedPointer<QTemporaryDir> m_folder;
+    QString path() const { return m_dir->filePath("settings.ini"); }
 };
 
 QTEST_GUILESS_MAIN(SettingsFileTest)

@@ -3,7 +3,6 @@
 #include "wavfile.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtEndian>
 
 #include <csignal>
@@ -44,7 +43,6 @@ class SoundTest : public TestCase
 
     void setUp() override
     {
-        m_dir.reset(new QTemporaryDir);
         qputenv("PATH", m_dir->path().toLocal8Bit() + ":/usr/bin:/bin");
         m_sounds.reset(new SoundManager);
         m_started.reset(new QSignalSpy(m_sounds.data(), &SoundManager::soundStarted));
@@ -71,7 +69,7 @@ private slots:
             {"endless chunks", wav(format(Rate) + chunk("junk", {}).repeated(1000) + sound(250)), -1},
         };
         for (const auto &[name, content, milliseconds] : files)
-            QVERIFY2(wavDuration(makeFile("a.wav", content)) == milliseconds, name);
+            QVERIFY2(wavDuration(writeFile(m_dir->filePath("a.wav"), content)) == milliseconds, name);
         for (const char *path : {"missing.wav", "/tmp", "/dev/zero", ""})
             QCOMPARE(wavDuration(path), -1);
     }
@@ -118,32 +116,25 @@ private slots:
     }
 
 private:
-    QString makeFile(const QString &name, const QByteArray &content)
-    {
-        QFile file(m_dir->filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qWarning("%s was not written", qPrintable(name));
-        return file.fileName();
-    }
     QString makeSound(const QString &name, int milliseconds)
     {
-        return makeFile(name, wav(format(Rate) + sound(milliseconds)));
+        return writeFile(m_dir->filePath(name), wav(format(Rate) + sound(milliseconds)));
     }
     /// A player that notes its process and its file, one line each time, and goes on with `rest`.
     void makePlayer(const QByteArray &rest)
     {
         const QString path
-            = makeFile("aplay", "#!/bin/sh\nshift 2\necho $$ $1 >>\"$(dirname \"$0\")/played\"\n" + rest + "\n");
+            = writeFile(m_dir->filePath("aplay"),
+                        "#!/bin/sh\nshift 2\necho $$ $1 >>\"$(dirname \"$0\")/played\"\n" + rest + "\n");
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     QList<QByteArray> played()
     {
-        QFile file(m_dir->filePath("played"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split('\n') : QList<QByteArray>();
+        const QByteArray lines = readFile(m_dir->filePath("played")).trimmed();
+        return lines.isEmpty() ? QList<QByteArray>() : lines.split('\n');
     }
     static bool isRunning(const QByteArray &line) { return kill(line.split(' ').first().toInt(), 0) == 0; }
 
-    QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<SoundManager> m_sounds;
     QScopedPointer<QSignalSpy> m_started, m_stopped;
 };

@@ -1,10 +1,10 @@
 #include "contactmanager.h"
+#include "people.h"
 #include "testcase.h"
 
 #include <QDir>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <functional>
@@ -12,15 +12,6 @@
 #include <unistd.h>
 
 using Action = std::function<void()>;
-
-static ContactData person(const QString &name, int memo = 0)
-{
-    ContactData contact;
-    contact.name = name;
-    contact.setNumbers({"1"}, {});
-    contact.memo = QString(memo, QChar('m'));
-    return contact;
-}
 
 /// Runs a statement on a connection that the store knows nothing of; `meanwhile` runs while it is open.
 static void onOwnConnection(const QString &path, const QString &sql, const Action &meanwhile = {})
@@ -62,13 +53,13 @@ private slots:
             m_dir.reset(new QTemporaryDir);
             makeStore(500);
             fault.first();
-            const QByteArray spoilt = content(path());
+            const QByteArray spoilt = readFile(path());
             expectWarning("moved .*contacts.db aside to .*contacts.db.damaged-[0-9-]+: .*" + fault.second);
             ContactManager store(path());
             QCOMPARE(store.getCountOfContact(), 0);
             QVERIFY(store.saveContact(person("Kim"), false));
             QCOMPARE(asideFiles().size(), 1);
-            QCOMPARE(content(m_dir->filePath(asideFiles().first())), spoilt);
+            QCOMPARE(readFile(m_dir->filePath(asideFiles().first())), spoilt);
         }
     }
 
@@ -101,7 +92,7 @@ private slots:
         const QStringList logs = asideFiles().filter(QRegularExpression("-wal$"));
         QCOMPARE(logs.size(), 2);
         for (const QString &log : logs)
-            QCOMPARE(content(m_dir->filePath(log)), QByteArray("contacts"));
+            QCOMPARE(readFile(m_dir->filePath(log)), QByteArray("contacts"));
     }
 
     void locked()
@@ -128,7 +119,7 @@ private slots:
         const rlimit small{256 * 1024, former.rlim_max};
         std::signal(SIGXFSZ, SIG_IGN);
         setrlimit(RLIMIT_FSIZE, &small);
-        const ContactData large = person("Large", 100000);
+        const ContactData large = person("Large", {"1"}, 100000);
         int saved = 0;
         expectWarning("SqliteFile|SqliteStatement");
         while (saved < 100 && store.saveContact(large, false))
@@ -143,7 +134,7 @@ private slots:
     void readOnlyFolder()
     {
         makeStore(3);
-        const QByteArray before = content(path());
+        const QByteArray before = readFile(path());
         withRights(QFile::ReadOwner, QFile::ReadOwner | QFile::ExeOwner, [this] {
             ContactManager store(path());
             QVERIFY(store.isOpen());
@@ -151,7 +142,7 @@ private slots:
             expectWarning("cannot write .*contacts.db");
             QCOMPARE(store.saveContact(person("Kim"), false), 0);
         });
-        QCOMPARE(content(path()), before);
+        QCOMPARE(readFile(path()), before);
     }
 
     void unreadableFile()
@@ -169,7 +160,6 @@ private slots:
     }
 
 private:
-    void setUp() override { m_dir.reset(new QTemporaryDir); }
     QString path() const { return m_dir->filePath("contacts.db"); }
     QStringList asideFiles() const { return QDir(m_dir->path()).entryList({"contacts.db.damaged-*"}); }
     /// Runs with these rights on the store, as a user whom rights bind: the superuser has all of them.
@@ -186,11 +176,6 @@ private:
         QVERIFY(!superuser || setresuid(0, 0, 0) == 0);
         QVERIFY(QFile::setPermissions(m_dir->path(), all) && QFile::setPermissions(path(), all));
     }
-    static QByteArray content(const QString &file)
-    {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
     static void overwrite(const QString &name, qint64 at, const QByteArray &bytes)
     {
         QFile file(name);
@@ -204,8 +189,6 @@ private:
             contacts.append({person(QString("Person %1").arg(i)), {}});
         QCOMPARE(store.importContacts(contacts), people);
     }
-
-    QScopedPointer<QTemporaryDir> m_dir;
 };
 
 QTEST_GUILESS_MAIN(TestStoreFaults)

@@ -1,11 +1,8 @@
 // The contact application: start and end, its list and its pages, its modes, its commands.
 
 #include "callmanager.h"
-#include "contactmanager.h"
 #include "contactscreen.h"
-#include "phonescript.h"
 #include "phonetest.h"
-#include "testmain.h"
 
 using namespace PhoneKeys;
 
@@ -111,10 +108,9 @@ private slots:
         photo.fill(Qt::red);
         const QString name = QString("contacttest%1.png").arg(QCoreApplication::applicationPid());
         QVERIFY(photo.save(m_phone->home.photoFolder() + '/' + name));
-        ContactData contact;
-        contact.name = "Photo";
+        ContactData contact = person("Photo");
         contact.picture = "photo:" + name;
-        QVERIFY(m_phone->core.contactManager()->saveContact(contact, false));
+        QVERIFY(store()->saveContact(contact, false));
         open();
         const QString thumbnail = "/tmp/thumbnail_tempphoto:" + name;
         QCOMPARE(QImage(thumbnail).size(), QSize(32, 32));
@@ -157,7 +153,6 @@ private:
         QVERIFY(m_contacts->open());
     }
     void tell(const QString &command) { send("contact", command); }
-    bool isOpen() const { return m_contacts->app.isVisible(); }
 
     std::unique_ptr<ContactScreen> m_contacts;
 };

@@ -1,12 +1,8 @@
 // Every command at every depth of screens, boxes and popups: all loops unwind, and the application works on.
 
-#include "contactmanager.h"
 #include "contactscreen.h"
-#include "neighbours.h"
 #include "phonekey.h"
-#include "phonescript.h"
 #include "phonetest.h"
-#include "testmain.h"
 
 using namespace PhoneKeys;
 
@@ -19,9 +15,7 @@ class DepthTest : public PhoneTest
     void setUp() override
     {
         PhoneTest::setUp();
-        ContactManager *store = m_phone->core.contactManager();
-        const int team = store->saveGroup(GroupData(-1, "Team", ""), false);
-        store->saveGroupMember(m_phone->addContact("Kim"), {team});
+        store()->saveGroupMember(m_phone->addContact("Kim"), {addGroup("Team")});
         m_contacts.reset(new ContactScreen);
         QVERIFY(m_contacts->open());
     }
@@ -78,7 +72,7 @@ private slots:
         script.call([this] { tell("CloseContact()"); }).until("everything to close", nothingShows);
         QCOMPARE(script.run(), QString());
         QVERIFY(!m_contacts->app.isVisible());
-        QCOMPARE(m_phone->core.contactManager()->getCountOfContact(), 1);
+        QCOMPARE(store()->getCountOfContact(), 1);
         // And the way in again is free.
         QVERIFY(m_contacts->open());
         click(Qt::Key_Down);
@@ -172,7 +166,7 @@ private:
             m_phone->writeFile(
                 answer,
                 "<a><display count=\"30\"/><item><data><type>number</type><value>1</value></data></item></a>");
-            m_phone->core.postAppMsg("contact", command, Neighbours::payload({m_phone->home.path(answer)}));
+            m_phone->send("contact", command, {m_phone->home.path(answer)});
         } else {
             m_phone->core.postAppMsg("contact", command, QByteArray(""));
         }

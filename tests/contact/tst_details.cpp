@@ -1,13 +1,10 @@
 // The details screen and what is done from it, and the group assignment.
 
 #include "callmanager.h"
-#include "contactmanager.h"
 #include "detailsdial.h"
 #include "grouplist_at_contact.h"
 #include "listviewcontactitem.h"
-#include "phonescript.h"
 #include "phonetest.h"
-#include "testmain.h"
 #include "wpsmcontactmanager.h"
 
 using namespace PhoneKeys;
@@ -57,9 +54,7 @@ private slots:
 
     void longTextsFlow()
     {
-        ContactData contact;
-        contact.name = "Kim";
-        contact.setNumbers({"1"}, {ContactData::Mobile});
+        ContactData contact = person("Kim");
         for (const int width : {231, 232}) {
             const bool flows = width > 231;
             contact.memo = textOfWidth(width);
@@ -152,7 +147,6 @@ private slots:
     }
 
 private:
-    ContactManager *store() const { return m_phone->core.contactManager(); }
     DetailsDial *openDetails(int id, int type = ContactData::LocalContact)
     {
         return open(new DetailsDial(nullptr, id, type));
@@ -165,11 +159,9 @@ private:
                          + list()->item(i)->text());
         return texts;
     }
-    int addGroup(const QString &name) { return store()->saveGroup(GroupData(-1, name, ""), false); }
     int fullContact()
     {
-        ContactData contact;
-        contact.name = "Kim";
+        ContactData contact = person("Kim");
         contact.setNumbers({"1", "2"}, {ContactData::Mobile, ContactData::Fax});
         contact.setEmails({"kim@example.org"});
         contact.bell = "/tones/basicring/Morning.wav";

@@ -1,27 +1,18 @@
 // Groups: the list, a group's members, the form.
 
 #include "callmanager.h"
-#include "contactmanager.h"
 #include "groupadd.h"
 #include "groupdetail.h"
 #include "grouplist.h"
 #include "listviewcontactitem.h"
-#include "phonescript.h"
 #include "phonetest.h"
 #include "ringtones.h"
-#include "testmain.h"
 
 using namespace PhoneKeys;
 
 class GroupsTest : public PhoneTest
 {
     Q_OBJECT
-
-    void setUp() override
-    {
-        PhoneTest::setUp();
-        m_store = m_phone->core.contactManager();
-    }
 
 private slots:
     void membersByName()
@@ -47,7 +38,7 @@ private slots:
         QCOMPARE(title(), QString("Contacts | Create Group "));
         QCOMPARE(PhoneScript().keys({Qt::Key_Context4}).dismissToast().run(), QString());
         QVERIFY(!form->isVisible());
-        QCOMPARE(m_store->getGroupName(team), QString("Team"));
+        QCOMPARE(store()->getGroupName(team), QString("Team"));
     }
 
     void noBellSoundsDuringACall()
@@ -65,15 +56,12 @@ private slots:
     }
 
 private:
-    int addGroup(const QString &name) { return m_store->saveGroup(GroupData(-1, name, ""), false); }
     int addMember(const QString &name, int group)
     {
         const int id = m_phone->addContact(name);
-        m_store->saveGroupMember(id, {group});
+        store()->saveGroupMember(id, {group});
         return id;
     }
-
-    ContactManager *m_store = nullptr;
 };
 
 PHONE_TEST_MAIN(GroupsTest)

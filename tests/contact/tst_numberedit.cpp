@@ -1,11 +1,8 @@
-#include "contactmanager.h"
 #include "numberedit.h"
 #include "numberedititems.h"
-#include "phonescript.h"
 #include "phonetest.h"
 #include "selectpopup.h"
 #include "selectpopuplistview.h"
-#include "testmain.h"
 
 #include <QLineEdit>
 
@@ -19,13 +16,12 @@ class NumberEditTest : public PhoneTest
 private slots:
     void keepsEveryFieldOfAContact()
     {
-        ContactData contact;
-        contact.name = "김철수";
+        ContactData contact = person("김철수");
         contact.setNumbers({"1", "2", "3"}, {ContactData::Fax, ContactData::Home, ContactData::Etc});
         contact.setEmails({"a@b", "c@d"});
         contact.memo = "memo";
         contact.id = store()->saveContact(contact, false);
-        const int group = store()->saveGroup(GroupData(-1, "Team", ""), false);
+        const int group = addGroup("Team");
         store()->saveGroupMember(contact.id, {group});
         openForm(contact.id);
         QCOMPARE(title(), QString("Contacts | Edit"));
@@ -148,7 +144,6 @@ private slots:
     }
 
 private:
-    ContactManager *store() const { return m_phone->core.contactManager(); }
     void openForm(int id, const QString &number = QString()) { open(new NumberEdit(nullptr, id, number, -1)); }
 
     /// The toast after the key that saves.

@@ -1,11 +1,8 @@
 // The local search: what is found, where the focus goes, and what changes meanwhile.
 
-#include "contactmanager.h"
 #include "listviewsearchitem.h"
-#include "phonescript.h"
 #include "phonetest.h"
 #include "searchall.h"
-#include "testmain.h"
 #include "wpsmcontactmanager.h"
 
 #include <QLabel>
@@ -86,14 +83,13 @@ private slots:
     /// The contact that is looked at changes meanwhile.
     void detailsAndBack()
     {
-        ContactManager *store = m_phone->core.contactManager();
-        ContactData ten = store->getSpecificContactDetail(store->getIdByUsingNameAndNumber("Ten", "91"));
+        ContactData ten = store()->getSpecificContactDetail(store()->getIdByUsingNameAndNumber("Ten", "91"));
         open();
         type("ten");
         PhoneScript script;
         script.keys(QVector<int>(4, Qt::Key_Down).toList()).opens(Qt::Key_Return, "DetailsDial").call([&] {
             ten.setNumbers({"91", "92", "93"}, {});
-            store->saveContact(ten, true);
+            store()->saveContact(ten, true);
         });
         QCOMPARE(script.opens(Qt::Key_Escape, "SearchAll").run(), QString());
         QCOMPARE(numbers().size(), 3);

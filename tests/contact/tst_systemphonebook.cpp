@@ -3,14 +3,12 @@
 #include "callmanager.h"
 #include "contactscreen.h"
 #include "initext.h"
-#include "phonescript.h"
 #include "phonetest.h"
 #include "systemphonebook.h"
 #include "systemphonebookcategorymodel.h"
 #include "systemphonebookdatamodel.h"
 #include "systemphonebooklistwidget.h"
 #include "systemphonebookview.h"
-#include "testmain.h"
 
 #include <QSettings>
 #include <QTextCodec>

@@ -2,20 +2,18 @@
 // killed there. What was acknowledged stands, what was not is there as a whole or not at all.
 
 #include "contactmanager.h"
-#include "core.h"
 #include "faultyfiles.h"
 #include "favourite.h"
-#include "phonehome.h"
 #include "programkeys.h"
 #include "qcalllist.h"
 #include "sentmessages.h"
+#include "testphone.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <unistd.h>
@@ -29,21 +27,33 @@ class Phone
 {
 public:
     explicit Phone(const QString &folder)
-        : m_home(makeHome(folder)), m_core(m_home), m_favourite(folder + "/data/favourite.ini"),
+        : m_home(TestPhone::makeHome(folder)), m_core(m_home), m_favourite(folder + "/data/favourite.ini"),
           m_keys(folder + "/data/programkeys.ini"), m_messages(folder + "/data/messages.db")
     {
     }
 
     ContactManager *store() { return m_core.contactManager(); }
     /// All that is kept, as lines.
-    QStringList content() const;
-
-    static PhoneHome makeHome(const QString &folder)
+    QStringList content() const
     {
-        const PhoneHome home(folder);
-        home.create();
-        home.enter();
-        return home;
+        QStringList lines{m_core.languageName(), m_favourite.name() + m_favourite.number()};
+        const ContactManager *store = m_core.contactManager();
+        for (const ContactData &contact : store->getAllContacts()) {
+            QStringList groups;
+            for (int id : store->getGroupIdsOfMember(contact.id))
+                groups.append(QString::number(id));
+            lines += contact.name + '|' + contact.telnum1 + '|' + contact.telnum2 + '|' + contact.memo + '|'
+                + groups.join(',');
+        }
+        for (const GroupData &group : store->getAllGroups(true))
+            lines.append(group.name + group.bell);
+        for (const CallRecord &call : m_core.callList()->calls())
+            lines.append(call.name + call.number);
+        for (const ProgramKey &key : m_keys.keys())
+            lines.append(key.name + key.number);
+        for (const SentMessage &message : m_messages.all())
+            lines.append(message.number + message.text);
+        return lines;
     }
 
     PhoneHome m_home;
@@ -53,35 +63,11 @@ public:
     SentMessages m_messages;
 };
 
-QStringList Phone::content() const
+/// Needs more than one page of the file.
+ContactData large(const QString &name, int id = 0)
 {
-    QStringList lines{m_core.languageName(), m_favourite.name() + m_favourite.number()};
-    const ContactManager *store = m_core.contactManager();
-    for (const ContactData &contact : store->getAllContacts()) {
-        QStringList groups;
-        for (int id : store->getGroupIdsOfMember(contact.id))
-            groups.append(QString::number(id));
-        lines.append(
-            QStringList{contact.name, contact.telnum1, contact.telnum2, contact.memo, groups.join(',')}.join('|'));
-    }
-    for (const GroupData &group : store->getAllGroups(true))
-        lines.append(group.name + group.bell);
-    for (const CallRecord &call : m_core.callList()->calls())
-        lines.append(call.name + call.number);
-    for (const ProgramKey &key : m_keys.keys())
-        lines.append(key.name + key.number);
-    for (const SentMessage &message : m_messages.all())
-        lines.append(message.number + message.text);
-    return lines;
-}
-
-ContactData person(const QString &name, int id = 0)
-{
-    ContactData contact;
+    ContactData contact = person(name, {"1", "22"}, 3000);
     contact.id = id;
-    contact.name = name;
-    contact.setNumbers({"1", "22"}, {});
-    contact.memo = QString(3000, QChar('m')); // more than one page of the file
     return contact;
 }
 
@@ -97,13 +83,13 @@ struct Operation
 const QList<Operation> &operations()
 {
     static const QList<Operation> all = {
-        {"add", [](Phone &phone) { return phone.store()->saveContact(person("Lee"), false) != 0; }},
-        {"edit", [](Phone &phone) { return phone.store()->saveContact(person("Lee", Kim), true) != 0; }},
+        {"add", [](Phone &phone) { return phone.store()->saveContact(large("Lee"), false) != 0; }},
+        {"edit", [](Phone &phone) { return phone.store()->saveContact(large("Lee", Kim), true) != 0; }},
         {"delete", [](Phone &phone) { return phone.store()->deleteContact(Kim, ContactData::LocalContact) != 0; }},
         {"delete all", [](Phone &phone) { return phone.store()->deleteAllContacts() != 0; }},
         {"import",
          [](Phone &phone) {
-             return phone.store()->importContacts({{person("A"), {"Team", "New"}}, {person("B"), {}}}) != 0;
+             return phone.store()->importContacts({{large("A"), {"Team", "New"}}, {large("B"), {}}}) != 0;
          }},
         {"add group", [](Phone &phone) { return phone.store()->saveGroup(GroupData(-1, "New", ""), false) != 0; }},
         {"edit group",
@@ -139,9 +125,7 @@ int runOnce(const QStringList &arguments)
     Phone phone(home);
     FaultyFiles::arm(qPrintable(home), arguments.value(4).toInt(), Fault::Killed);
     const bool acknowledged = operations().at(arguments.value(3).toInt()).run(phone);
-    if (acknowledged && ::write(STDOUT_FILENO, "done", 4) != 4)
-        return 1;
-    return 0;
+    return acknowledged && ::write(STDOUT_FILENO, "done", 4) != 4 ? 1 : 0;
 }
 
 }
@@ -151,130 +135,123 @@ class CrashSafetyTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void failures_data() { operationRows(); }
-    void failures();
-    void kills_data() { operationRows(); }
-    void kills();
-
-private:
-    static constexpr int MostSteps = 200;
-
-    static void operationRows();
-    QString freshHome() const;
-    QStringList contentAfter(int operation) const;
-    static void verifyDatabases(const QString &home);
-
-    QTemporaryDir m_folder{"/dev/shm/phone-XXXXXX"}; // syncing costs nothing there
-    QStringList m_before;
-};
-
-void CrashSafetyTest::initTestCase()
-{
-    // Each fault is told in the log, in words that depend on where it strikes.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    Phone phone(m_folder.filePath("made"));
-    QCOMPARE(phone.store()->saveContact(person("Kim"), false), int(Kim));
-    QCOMPARE(phone.store()->saveGroup(GroupData(-1, "Team", ""), false), int(Team));
-    QVERIFY(phone.store()->saveGroupMember(Kim, {Team}));
-    phone.m_favourite.set("Kim", "1");
-    phone.m_keys.set("Kim", "1");
-    m_before = phone.content();
-}
-
-void CrashSafetyTest::operationRows()
-{
-    QTest::addColumn<int>("operation");
-    for (int i = 0; i < operations().size(); ++i)
-        QTest::newRow(operations().at(i).name) << i;
-}
-
-QString CrashSafetyTest::freshHome() const
-{
-    const QString home = m_folder.filePath("home");
-    QDir(home).removeRecursively();
-    QProcess::execute("cp", {"-r", m_folder.filePath("made"), home});
-    return home;
-}
-
-QStringList CrashSafetyTest::contentAfter(int operation) const
-{
-    Phone phone(freshHome());
-    operations().at(operation).run(phone);
-    return phone.content();
-}
-
-void CrashSafetyTest::verifyDatabases(const QString &home)
-{
-    for (const char *name : {"contacts.db", "calls.db", "messages.db"}) {
-        {
-            QSqlDatabase file = QSqlDatabase::addDatabase("QSQLITE", "check");
-            file.setDatabaseName(home + "/data/" + name);
-            QVERIFY(file.open());
-            QSqlQuery check("PRAGMA integrity_check", file);
-            QVERIFY(check.next());
-            QCOMPARE(check.value(0).toString(), QString("ok"));
-        }
-        QSqlDatabase::removeDatabase("check");
+    void initTestCase()
+    {
+        // Each fault is told in the log, in words that depend on where it strikes.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        Phone phone(m_folder.filePath("made"));
+        QCOMPARE(phone.store()->saveContact(large("Kim"), false), int(Kim));
+        QCOMPARE(phone.store()->saveGroup(GroupData(-1, "Team", ""), false), int(Team));
+        QVERIFY(phone.store()->saveGroupMember(Kim, {Team}));
+        phone.m_favourite.set("Kim", "1");
+        phone.m_keys.set("Kim", "1");
+        m_before = phone.content();
     }
-    QCOMPARE(QDir(home + "/data").entryList({"*.damaged-*"}), QStringList());
-}
 
-void CrashSafetyTest::failures()
-{
-    QFETCH(int, operation);
-    const QStringList after = contentAfter(operation);
-    QVERIFY(after != m_before);
-    for (Fault fault : {Fault::NoSpace, Fault::NoSpaceOnce, Fault::InputOutput, Fault::InputOutputOnce}) {
+    void failures_data() { operationRows(); }
+
+    void failures()
+    {
+        QFETCH(int, operation);
+        const QStringList after = contentAfter(operation);
+        QVERIFY(after != m_before);
+        for (Fault fault : {Fault::NoSpace, Fault::NoSpaceOnce, Fault::InputOutput, Fault::InputOutputOnce}) {
+            int step = 0;
+            bool struck = true;
+            while (struck && ++step < MostSteps) {
+                const QString home = freshHome();
+                const QByteArray where = QByteArray::number(int(fault)) + " at " + QByteArray::number(step);
+                bool acknowledged = false;
+                {
+                    Phone phone(home);
+                    FaultyFiles::arm(qPrintable(home), step, fault);
+                    acknowledged = operations().at(operation).run(phone);
+                    struck = FaultyFiles::disarm() >= step;
+                    // The phone goes on with what it has said.
+                    QVERIFY2(phone.content() == (acknowledged ? after : m_before), where);
+                }
+                const QStringList found = Phone(home).content();
+                QVERIFY2(found == after || (!acknowledged && found == m_before), where);
+                verifyDatabases(home);
+                // With room again it does what it was asked for.
+                if (!acknowledged) {
+                    Phone phone(home);
+                    QVERIFY2(found == after || operations().at(operation).run(phone), where);
+                    QVERIFY2(phone.content() == after, where);
+                }
+            }
+            QVERIFY(step > 1 && step < MostSteps);
+        }
+    }
+
+    void kills_data() { operationRows(); }
+
+    void kills()
+    {
+        QFETCH(int, operation);
+        const QStringList after = contentAfter(operation);
         int step = 0;
         bool struck = true;
         while (struck && ++step < MostSteps) {
             const QString home = freshHome();
-            const QByteArray where = QByteArray::number(int(fault)) + " at " + QByteArray::number(step);
-            bool acknowledged = false;
-            {
-                Phone phone(home);
-                FaultyFiles::arm(qPrintable(home), step, fault);
-                acknowledged = operations().at(operation).run(phone);
-                struck = FaultyFiles::disarm() >= step;
-                // The phone goes on with what it has said.
-                QVERIFY2(phone.content() == (acknowledged ? after : m_before), where);
-            }
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(),
+                          {"--once", home, QString::number(operation), QString::number(step)});
+            QVERIFY(process.waitForFinished());
+            struck = process.exitStatus() == QProcess::CrashExit;
+            QVERIFY(struck || process.exitCode() == 0);
+            const bool acknowledged = !process.readAllStandardOutput().isEmpty();
             const QStringList found = Phone(home).content();
-            QVERIFY2(found == after || (!acknowledged && found == m_before), where);
+            QVERIFY2(found == after || (!acknowledged && found == m_before), QByteArray::number(step));
             verifyDatabases(home);
-            // With room again it does what it was asked for.
-            if (!acknowledged) {
-                Phone phone(home);
-                QVERIFY2(found == after || operations().at(operation).run(phone), where);
-                QVERIFY2(phone.content() == after, where);
-            }
         }
         QVERIFY(step > 1 && step < MostSteps);
     }
-}
 
-void CrashSafetyTest::kills()
-{
-    QFETCH(int, operation);
-    const QStringList after = contentAfter(operation);
-    int step = 0;
-    bool struck = true;
-    while (struck && ++step < MostSteps) {
-        const QString home = freshHome();
-        QProcess process;
-        process.start(QCoreApplication::applicationFilePath(),
-                      {"--once", home, QString::number(operation), QString::number(step)});
-        QVERIFY(process.waitForFinished());
-        struck = process.exitStatus() == QProcess::CrashExit;
-        QVERIFY(struck || process.exitCode() == 0);
-        const bool acknowledged = !process.readAllStandardOutput().isEmpty();
-        const QStringList found = Phone(home).content();
-        QVERIFY2(found == after || (!acknowledged && found == m_before), QByteArray::number(step));
-        verifyDatabases(home);
+private:
+    static constexpr int MostSteps = 200;
+
+    static void operationRows()
+    {
+        QTest::addColumn<int>("operation");
+        for (int i = 0; i < operations().size(); ++i)
+            QTest::newRow(operations().at(i).name) << i;
     }
-    QVERIFY(step > 1 && step < MostSteps);
-}
+
+    QString freshHome() const
+    {
+        const QString home = m_folder.filePath("home");
+        QDir(home).removeRecursively();
+        QProcess::execute("cp", {"-r", m_folder.filePath("made"), home});
+        return home;
+    }
+
+    QStringList contentAfter(int operation) const
+    {
+        Phone phone(freshHome());
+        operations().at(operation).run(phone);
+        return phone.content();
+    }
+
+    static void verifyDatabases(const QString &home)
+    {
+        for (const char *name : {"contacts.db", "calls.db", "messages.db"}) {
+            {
+                QSqlDatabase file = QSqlDatabase::addDatabase("QSQLITE", "check");
+                file.setDatabaseName(home + "/data/" + name);
+                QVERIFY(file.open());
+                QSqlQuery check("PRAGMA integrity_check", file);
+                QVERIFY(check.next());
+                QCOMPARE(check.value(0).toString(), QString("ok"));
+            }
+            QSqlDatabase::removeDatabase("check");
+        }
+        QCOMPARE(QDir(home + "/data").entryList({"*.damaged-*"}), QStringList());
+    }
+
+    QTemporaryDir m_folder{"/dev/shm/phone-XXXXXX"}; // syncing costs nothing there
+    QStringList m_before;
+};
 
 int main(int argc, char **argv)
 {

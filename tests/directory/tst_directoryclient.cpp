@@ -193,9 +193,8 @@ private:
     {
         m_phone->writeFile("config/phone_info.conf", "[Prov_Info]\nId=7\n[Directory_svc]\n" + info);
         m_phone->writeFile("config/secret.ini", "[Prov]\nPassword=p\n");
-        QFile state(CallManagerState);
-        if (!proxy.isEmpty() && state.open(QIODevice::WriteOnly))
-            state.write("[LINE_0]\nPROXY=" + proxy);
+        if (!proxy.isEmpty())
+            writeFile(CallManagerState, "[LINE_0]\nPROXY=" + proxy);
     }
 
     QList<QList<DirectoryData>> load(const QByteArray &document)

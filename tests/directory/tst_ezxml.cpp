@@ -302,9 +302,7 @@ private slots:
              {"/usr/share/mime", "/usr/share/X11/xkb/rules", "/usr/share/fontconfig/conf.avail"}) {
             QDirIterator files(folder, {"*.xml", "*.conf"}, QDir::Files, QDirIterator::Subdirectories);
             while (files.hasNext()) {
-                QFile file(files.next());
-                QVERIFY(file.open(QIODevice::ReadOnly));
-                const QByteArray document = file.readAll();
+                const QByteArray document = readFile(files.next());
                 for (QByteArray text : {document, utf16(document, "UTF-16LE"), utf16(document, "UTF-16BE")}) {
                     ezxml *root = ezxml_parse_str(text.data(), size_t(text.size()));
                     Comparison comparison(root);
@@ -313,9 +311,9 @@ private slots:
                     ezxml_free(root);
                     if (!isFit)
                         continue;
-                    QVERIFY2(error.isEmpty(), file.fileName().toLocal8Bit() + ": " + error);
+                    QVERIFY2(error.isEmpty(), files.filePath().toLocal8Bit() + ": " + error);
                     QVERIFY2(comparison.difference().isEmpty(),
-                             file.fileName().toLocal8Bit() + ": " + comparison.difference());
+                             files.filePath().toLocal8Bit() + ": " + comparison.difference());
                     ++compared;
                 }
             }

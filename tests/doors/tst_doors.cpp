@@ -81,7 +81,7 @@ private slots:
         QVERIFY(control.listen(home.controlSocket()) && peers.listen(home.peerSocket()));
         QCOMPARE(mode(home.controlSocket()) & 0077, 0);
         QCOMPARE(mode(home.peerSocket()) & 0077, 0);
-        QVERIFY(content(victim()).contains("PROXY"));
+        QVERIFY(readFile(victim()).contains("PROXY"));
     }
 
     void filesAtFixedPlaces_data() { kinds({"link", "somebody else's", "pipe"}); }
@@ -101,7 +101,7 @@ private slots:
         QCOMPARE(DirectorySettings::page(), 0);
         DirectorySettings::setPage(3);
         QCOMPARE(DirectorySettings::page(), 3);
-        QVERIFY(content(victim()).contains("Page=7"));
+        QVERIFY(readFile(victim()).contains("Page=7"));
     }
 
     void thumbnails_data() { kinds({"link", "somebody else's", "pipe", "linked folder", "folder of somebody"}); }
@@ -123,12 +123,12 @@ private slots:
         } else {
             plant(thumbnail);
         }
-        const QByteArray before = content(victim()), photoBefore = content(photo);
+        const QByteArray before = readFile(victim()), photoBefore = readFile(photo);
         expectWarning("Thumbnail: left alone");
         Thumbnail::make(picture);
         QVERIFY(Thumbnail::load(picture).isNull());
-        QCOMPARE(content(victim()), before);
-        QCOMPARE(content(photo), photoBefore);
+        QCOMPARE(readFile(victim()), before);
+        QCOMPARE(readFile(photo), photoBefore);
         QVERIFY(!kind.contains("folder") || !QFile::exists(thumbnail));
     }
 
@@ -141,9 +141,9 @@ private slots:
         const bool isTaken = QTest::currentDataTag() == QByteArray("file");
         const AnswerFile answer(m_phone->home, path);
         QCOMPARE(answer.isOpen(), isTaken);
-        QVERIFY(!isTaken || content(answer.path()).contains("PROXY"));
+        QVERIFY(!isTaken || readFile(answer.path()).contains("PROXY"));
         QCOMPARE(QFile::exists(path), !isTaken);
-        QVERIFY(content(victim()).contains("PROXY"));
+        QVERIFY(readFile(victim()).contains("PROXY"));
     }
 
     void answerPaths()
@@ -186,12 +186,12 @@ private slots:
             ::rename(m_phone->home.path("run/fresh").toUtf8(), name);
             const AnswerFile file(m_phone->home, answer);
             if (file.isOpen())
-                contents.append(content(file.path()));
+                contents.append(readFile(file.path()));
         }
         isOver = true;
         rival.join();
         QCOMPARE(contents.count("<a/>"), contents.size());
-        QCOMPARE(content(victim()), QByteArray("secret"));
+        QCOMPARE(readFile(victim()), QByteArray("secret"));
     }
 
     void answersToOlderRequests()
@@ -237,11 +237,6 @@ private:
             QCOMPARE(::chown(name.constData(), Nobody, Nobody), 0);
     }
 
-    QByteArray content(const QString &path) const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
     static int mode(const QString &path)
     {
         struct stat info;

@@ -3,7 +3,6 @@
 #include "directorytransport.h"
 #include "message.h"
 #include "peertest.h"
-#include "testmain.h"
 
 #include <QDir>
 #include <QTcpServer>
@@ -70,11 +69,8 @@ private:
     {
         QByteArray all;
         const QStringList numbers = QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
-        for (const QString &number : numbers) {
-            QFile text("/proc/" + number + '/' + file);
-            if (text.open(QIODevice::ReadOnly))
-                all += text.readAll() + '\n';
-        }
+        for (const QString &number : numbers)
+            all += readFile("/proc/" + number + '/' + file) + '\n';
         return all;
     }
 };

@@ -1,7 +1,6 @@
 #include "everyapp.h"
 
 #include "contactmanager.h"
-#include "control/apppayload.h"
 #include "qcalllist.h"
 #include "ringtones.h"
 
@@ -20,8 +19,7 @@ void EveryApp::addPeople()
 {
     ContactManager *store = phone.core.contactManager();
     store->saveGroup(GroupData(-1, "Team", ""), false);
-    ContactData kim;
-    kim.name = "Kim";
+    ContactData kim = person("Kim");
     kim.setNumbers({"100", "101", "102", "103", "104"}, {0, 1, 2, 3, 4});
     kim.setEmails({"kim@example.org"});
     kim.memo = "abc";
@@ -32,13 +30,9 @@ void EveryApp::addPeople()
         ids.append(group.id);
     store->saveGroupMember(store->getIdByUsingNameAndNumber("Kim", "100"), {ids.last()});
     phone.addContacts(7);
-    send("contact", "api2ui_noti_contact_changed()", {});
-    send("aom", "searchContactResult(str,str)", {"Kim", "100"});
-    CallRecord record;
-    record.number = "100";
-    record.name = "Kim";
-    record.startedAt = QDateTime::currentDateTime();
-    phone.core.callList()->addCall(record);
+    phone.send("contact", "api2ui_noti_contact_changed()", {});
+    phone.send("aom", "searchContactResult(str,str)", {"Kim", "100"});
+    phone.core.callList()->addCall({"100", "Kim", CallRecord::Outgoing, QDateTime::currentDateTime(), 0});
 }
 
 void EveryApp::addGroups(int count)
@@ -72,25 +66,14 @@ void EveryApp::answer(bool found)
     phone.writeFile("run/directory-AbCdEf.xml",
                     "<directory><display charset=\"UTF-8\" pageinfo=\"1/2\" path=\"/x\" timestamp=\"1\" count=\""
                         + QByteArray(found ? "30" : "0") + "\"/>" + (found ? person : "") + "</directory>");
-    send("contact", "http2ui_directory_service_response(str,int)",
-         {phone.home.path("run/directory-AbCdEf.xml"), 200});
-}
-
-void EveryApp::send(const QString &app, const QString &command, const QVariantList &items)
-{
-    QByteArray payload;
-    QString fault;
-    if (!AppPayload::encode(command, items, &payload, &fault))
-        qWarning("%s", qPrintable(fault));
-    phone.core.postAppMsg(app, command, payload);
+    phone.send("contact", "http2ui_directory_service_response(str,int)",
+               {phone.home.path("run/directory-AbCdEf.xml"), 200});
 }
 
 void EveryApp::goHome()
 {
     for (BaseAppInterface *app :
-         {static_cast<BaseAppInterface *>(&contact), static_cast<BaseAppInterface *>(&message),
-          static_cast<BaseAppInterface *>(&keys), static_cast<BaseAppInterface *>(&history),
-          static_cast<BaseAppInterface *>(&call)})
+         std::initializer_list<BaseAppInterface *>{&contact, &message, &keys, &history, &call})
         app->end();
     idle.start(nullptr, nullptr);
 }

@@ -32,7 +32,6 @@ public:
     void addDirectory();
     /// What a directory server of two pages says, or of none.
     void answer(bool found);
-    void send(const QString &app, const QString &command, const QVariantList &items);
     /// Closes everything above the home screen.
     void goHome();
 

@@ -4,19 +4,17 @@
 
 #include "contact.h"
 #include "displaysetup.h"
+#include "fuzztarget.h"
 #include "testphone.h"
 #include "testscreen.h"
 
 #include <QApplication>
-#include <QDataStream>
 #include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QThread>
 #include <QTimer>
 
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 
 extern "C" int system(const char *)
 {
@@ -57,15 +55,14 @@ struct Phone
     void post(const QByteArray &message)
     {
         const int lineEnd = message.indexOf('\n');
-        QByteArray command = message.left(lineEnd), payload = lineEnd < 0 ? "" : message.mid(lineEnd + 1);
+        const QByteArray command = message.left(lineEnd), payload = lineEnd < 0 ? "" : message.mid(lineEnd + 1);
+        const QString answer = "run/directory-answer.xml";
         if (command == "answer") {
-            phone.writeFile("run/directory-answer.xml", payload);
-            payload.clear();
-            QDataStream stream(&payload, QIODevice::WriteOnly);
-            stream << phone.home.path("run/directory-answer.xml") << qint32(200);
-            command = "http2ui_directory_service_response(str,int)";
+            phone.writeFile(answer, payload);
+            phone.send("contact", "http2ui_directory_service_response(str,int)", {phone.home.path(answer), 200});
+        } else {
+            phone.core.postAppMsg("contact", QString::fromLatin1(command), payload);
         }
-        phone.core.postAppMsg("contact", QString::fromLatin1(command), payload);
     }
 
     TestScreen screen;

@@ -2,11 +2,10 @@
 
 #include "directorydocument.h"
 #include "ezxml.h"
+#include "fuzztarget.h"
 
 #include <QtGlobal>
 
-#include <cstdint>
-#include <cstdlib>
 #include <vector>
 
 extern "C" int system(const char *)
@@ -26,8 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     int items = 0;
     for (const xml_directory_item *item = directory->items; item; item = item->next)
         ++items;
-    if (!sink || directory_dump(directory) != items || directory->item_count != 0)
-        std::abort();
+    require(sink && directory_dump(directory) == items && directory->item_count == 0);
     std::free(directory->charset2);
     free_directory_data(directory);
     return 0;

@@ -1,5 +1,6 @@
 // Any bytes give a map of keys: each names a key of the phone, and the key of the PC that stands there becomes it.
 
+#include "fuzztarget.h"
 #include "keymap.h"
 #include "phonekey.h"
 
@@ -11,9 +12,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include <cstdint>
-#include <cstdlib>
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static int count = 1;
@@ -22,9 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static const QTemporaryDir folder;
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QFile file(folder.filePath("keymap.ini"));
-    if (!app || !file.open(QIODevice::WriteOnly)
-        || file.write(reinterpret_cast<const char *>(data), qint64(size)) != qint64(size))
-        std::abort();
+    require(app && file.open(QIODevice::WriteOnly)
+            && file.write(reinterpret_cast<const char *>(data), qint64(size)) == qint64(size));
     file.close();
 
     KeyMap map(file.fileName());
@@ -35,13 +32,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (auto it = keys.begin(); it != keys.end(); ++it) {
         const int pcKey = QKeySequence(it.key(), QKeySequence::PortableText)[0];
         const auto modifiers = Qt::KeyboardModifiers(pcKey & int(Qt::KeyboardModifierMask));
-        if (PhoneKey::code(it.value()) == 0)
-            std::abort();
+        require(PhoneKey::code(it.value()) != 0);
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, pcKey & ~int(Qt::KeyboardModifierMask), modifiers);
             QSpontaneKeyEvent::setSpontaneous(&event);
-            if (!map.eventFilter(window, &event))
-                std::abort();
+            require(map.eventFilter(window, &event));
         }
     }
     while (PhoneKey::pending())

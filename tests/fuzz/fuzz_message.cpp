@@ -1,22 +1,19 @@
 // Any bytes are no message, or one that is written again byte for byte.
 
+#include "fuzztarget.h"
 #include "message.h"
 
 #include <array>
-#include <cstdint>
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     Message message{"kept", "f()", {}};
     if (!message_Parse(bytes.constData(), bytes.size(), &message)) {
-        if (message.address != "kept")
-            std::abort();
+        require(message.address == "kept");
         return 0;
     }
-    if (message_MakeFromValues(message) != bytes)
-        std::abort();
+    require(message_MakeFromValues(message) == bytes);
     // Those of one text or number can be handed to the other writer, too.
     const QVariant argument = message.arguments.value(0);
     std::array<char, 0x12000> buffer;
@@ -26,7 +23,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     };
     if (message.arguments.size() == 1 && size < buffer.size())
         made = argument.type() == QVariant::Int ? make(argument.toInt()) : make(argument.toByteArray().constData());
-    if (made != bytes.size())
-        std::abort();
+    require(made == bytes.size());
     return 0;
 }

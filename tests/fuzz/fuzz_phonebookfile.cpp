@@ -1,5 +1,6 @@
 // Any bytes give a system phonebook, whose models agree with it.
 
+#include "fuzztarget.h"
 #include "phonebookfile.h"
 #include "systemphonebook.h"
 #include "systemphonebookcategorymodel.h"
@@ -8,15 +9,6 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-
-#include <cstdint>
-#include <cstdlib>
-
-static void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

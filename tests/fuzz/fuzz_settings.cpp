@@ -1,9 +1,7 @@
 // What is read from any bytes as settings, written and read again is the same.
 
+#include "fuzztarget.h"
 #include "initext.h"
-
-#include <cstdint>
-#include <cstdlib>
 
 static QMap<QString, QString> read(const QByteArray &text)
 {
@@ -15,7 +13,6 @@ static QMap<QString, QString> read(const QByteArray &text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QMap<QString, QString> values = read({reinterpret_cast<const char *>(data), int(size)});
-    if (read(IniText::write(values)) != values)
-        std::abort();
+    require(read(IniText::write(values)) == values);
     return 0;
 }

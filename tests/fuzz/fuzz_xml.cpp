@@ -1,19 +1,12 @@
 // Any bytes give a tree whose lists agree with each other.
 
 #include "ezxml.h"
+#include "fuzztarget.h"
 
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <vector>
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// The next element in document order, without recursion.
 ezxml *following(ezxml *element)

@@ -1,10 +1,8 @@
 // Runs a fuzz target over the files that are named, where libFuzzer is not there to do it.
 
+#include "fuzztarget.h"
+
 #include <QFile>
-
-#include <cstdint>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 int main(int argc, char **argv)
 {

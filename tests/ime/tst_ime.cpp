@@ -63,12 +63,8 @@ class ImeTest : public TestCase
 private slots:
     void offersLetters()
     {
-        const struct
-        {
-            const char *language;
-            int mode;
-            QString keys; // each key, then what it offers
-        } offers[] = {
+        // A language, a mode, and each key with what it offers.
+        const QList<std::tuple<const char *, IMEStatus, QString>> offers = {
             {"en_US", IMESmall,
              "1.,-'&()?!\"1|2abc2|3def3|4ghi4|5jkl5|6mno6|7pqrs7|8tuv8|9wxyz9|0 0+|*.@-_/:*#+,;=%"},
             {"de_DE", IMECapital, "2ABCÄ2|7PQRS7|8TUVÜ8"},
@@ -81,10 +77,10 @@ private slots:
             {"ko_KR", IMEDigit, "11|22|00|*.*+,-/:"},
             {"de_DE", IMENumeric, "11|99|00|**|##"},
         };
-        for (const auto &offer : offers) {
-            setLanguage(offer.language);
-            setMode(offer.mode);
-            for (const QString &entry : offer.keys.split('|')) {
+        for (const auto &[language, mode, keys] : offers) {
+            setLanguage(language);
+            setMode(mode);
+            for (const QString &entry : keys.split('|')) {
                 const QString offered = entry.mid(1);
                 edit().clear();
                 for (int taps = 1; taps <= offered.size(); ++taps)
@@ -100,36 +96,26 @@ private slots:
 
     void writes()
     {
-        const struct
-        {
-            const char *name, *language;
-            int mode;
-            QString keys, text;
-        } writings[] = {
-            {"two letters of one key", "en_US", IMESmall, "22>2>", "ba"},
-            {"erases the pending letter", "en_US", IMESmall, "2333<", "a"},
-            {"erases what is written", "en_US", IMESmall, "23>4<<", "a"},
-            {"three syllables", "ko_KR", IMEFirst, "4100992155832>", "김철수"},
-            {"an arrow ends the tapping", "ko_KR", IMEFirst, "88124>4223>", "학교"},
-            {"half of two consonants moves on", "ko_KR", IMEFirst, "61255412>", "달가"},
-            {"a cluster, then another tap", "ko_KR", IMEFirst, "41278832>", "갑후"},
-            {"a cluster", "ko_KR", IMEFirst, "41278888>", "값"},
-            {"compound vowels", "ko_KR", IMEFirst, "42312>0321>8831>423121>", "과위희괘"},
-            {"vowels of many strokes", "ko_KR", IMEFirst, "0121>01221>0211>02211>0231>03221>032211>0322>",
-             "애얘에예외워웨유"},
-            {"erases to the syllable before", "ko_KR", IMEFirst, "4124<<12>", "가"},
-            {"Korean between the others", "ko_KR", IMEFirst, "412#2#2#2#412>*>4>", "가aA2가 ㄱ"},
-            {"a dot alone stays", "ko_KR", IMEFirst, "412425>", "각ㆍㄴ"},
-        };
-        for (const auto &writing : writings) {
-            setLanguage(writing.language);
-            edit().setFocus();
-            setMode(writing.mode);
-            edit().clear();
-            type(writing.keys);
+        // In small letters, or in Korean, and what they show.
+        const QList<std::tuple<QString, QString, const char *>> writings
+            = {{"22>2>", "ba", "two letters of one key"},
+               {"2333<", "a", "erases the pending letter"},
+               {"23>4<<", "a", "erases what is written"},
+               {"k4100992155832>", "김철수", "three syllables"},
+               {"k88124>4223>", "학교", "an arrow ends the tapping"},
+               {"k61255412>", "달가", "half of two consonants moves on"},
+               {"k41278832>", "갑후", "a cluster, then another tap"},
+               {"k41278888>", "값", "a cluster"},
+               {"k42312>0321>8831>423121>", "과위희괘", "compound vowels"},
+               {"k0121>01221>0211>02211>0231>03221>032211>0322>", "애얘에예외워웨유", "vowels of many strokes"},
+               {"k4124<<12>", "가", "erases to the syllable before"},
+               {"k412#2#2#2#412>*>4>", "가aA2가 ㄱ", "Korean between the others"},
+               {"k412425>", "각ㆍㄴ", "a dot alone stays"}};
+        for (const auto &[keys, text, what] : writings) {
+            type(begin(keys));
             // What is pending goes with the focus.
             m_phone->other.setFocus();
-            QVERIFY2(edit().text() == writing.text, writing.name);
+            QVERIFY2(edit().text() == text, what);
             QCOMPARE(edit().pending, QString());
         }
     }
@@ -306,20 +292,15 @@ private slots:
 
     void respectsTheLength()
     {
-        // Four are Korean. There is room again after an erasure; a vowel may need another syllable.
+        edit().setMaxLength(2);
+        // There is room again after an erasure; a vowel may need another syllable.
         for (const auto &[keys, text] : {std::pair(QString("2333456"), "af"),
                                          {"234<5", "aj"},
                                          {"k41249921", "각처"},
                                          {"k412>4100", "가김"},
                                          {"k412>410012", "가김"},
                                          {"k412>412788", "가값"}}) {
-            const bool korean = keys.startsWith('k');
-            setLanguage(korean ? "ko_KR" : "en_US");
-            setMode(korean ? IMEFirst : IMESmall);
-            edit().setFocus();
-            edit().clear();
-            edit().setMaxLength(2);
-            for (const QChar key : keys.mid(korean)) {
+            for (const QChar key : begin(keys)) {
                 type(key);
                 QVERIFY(edit().text().size() <= 2);
             }
@@ -439,6 +420,16 @@ private:
     Core &core() { return m_phone->phone.core; }
     void setMode(int mode) { core().setIMEStatus(static_cast<IMEStatus>(mode), true); }
     void setLanguage(const QString &name) { core().setLanguageName(name); }
+    /// Prepares an empty field for keys, in Korean those behind a "k", and returns them.
+    QString begin(const QString &keys)
+    {
+        const bool korean = keys.startsWith('k');
+        setLanguage(korean ? "ko_KR" : "en_US");
+        edit().setFocus();
+        setMode(korean ? IMEFirst : IMESmall);
+        edit().clear();
+        return keys.mid(korean);
+    }
     void writeKorean()
     {
         setLanguage("ko_KR");

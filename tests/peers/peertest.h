@@ -1,35 +1,15 @@
 #ifndef PEERTEST_H
 #define PEERTEST_H
 
-#include "control/apppayload.h"
 #include "peerserver.h"
 #include "testcase.h"
+#include "testmain.h"
 #include "testphone.h"
 
 #include <QProcess>
 #include <QSettings>
 
 #include <memory>
-
-/// The application that a peer speaks to: keeps what each message says, its items with a space between them.
-class PeerListener final : public BaseAppInterface
-{
-public:
-    explicit PeerListener(const QString &name) : BaseAppInterface(name, nullptr) { }
-    ~PeerListener() = default;
-
-    bool start(QWidget *, void *) override { return true; }
-    void end() override { }
-    void receiveMsg(const QString &command, const QByteArray &payload) override
-    {
-        QStringList words;
-        for (const QVariant &item : AppPayload::decode(command, payload))
-            words.append(item.toString());
-        heard.append(words.join(' ').trimmed());
-    }
-
-    QStringList heard;
-};
 
 /// A phone, its end of the peers' socket, and a peer as a process.
 class PeerTest : public TestCase
@@ -53,7 +33,7 @@ protected:
         m_phone.reset(new TestPhone);
         m_server.reset(new PeerServer);
         QVERIFY(m_server->listen(m_phone->home.peerSocket()));
-        m_app.reset(new PeerListener(listener));
+        m_app.reset(new ListeningApp(listener));
         m_log.clear();
     }
     void tearDown() override
@@ -75,7 +55,7 @@ protected:
 
     std::unique_ptr<TestPhone> m_phone;
     std::unique_ptr<PeerServer> m_server;
-    std::unique_ptr<PeerListener> m_app;
+    std::unique_ptr<ListeningApp> m_app;
     std::unique_ptr<QProcess> m_peer;
     QByteArray m_log;
     quint16 m_port = 0;

@@ -2,7 +2,6 @@
 #define NEIGHBOURTEST_H
 
 #include "phonetest.h"
-#include "testmain.h"
 
 /// The base of the tests of the shell's small applications.
 template <typename App> class NeighbourTest : public PhoneTest

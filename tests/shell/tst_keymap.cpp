@@ -4,8 +4,6 @@
 #include "testcase.h"
 #include "testmain.h"
 
-#include <QTemporaryDir>
-
 /// Keeps the keys that reach it, by their names on the phone or as the text that they type.
 class KeyCatcher : public QWidget
 {
@@ -48,8 +46,7 @@ private slots:
                {Qt::Key_Escape, None, "\x1b", "Esc"},
                {Qt::Key_A, None, "a", "a"},
                {Qt::Key_5, None, "5", "5"}};
-        const QTemporaryDir folder;
-        const KeyMap map(folder.filePath("keymap.ini"));
+        const KeyMap map(m_dir->filePath("keymap.ini"));
         KeyCatcher window;
         QVERIFY(PhoneKeys::showAndActivate(&window));
         for (const auto &[key, modifiers, text, phoneKey] : keys) {

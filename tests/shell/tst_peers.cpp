@@ -2,7 +2,6 @@
 #include "peerprocess.h"
 #include "peers.h"
 #include "phonetest.h"
-#include "testmain.h"
 
 #include <QFile>
 #include <QSignalSpy>

@@ -1,7 +1,6 @@
 #include "phonetest.h"
 #include "pluginhost.h"
 #include "pluginverification.h"
-#include "testmain.h"
 
 class PluginHostTest : public PhoneTest
 {

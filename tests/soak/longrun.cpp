@@ -5,7 +5,6 @@
 #include "contactmanager.h"
 #include "contactscreen.h"
 #include "displaysetup.h"
-#include "neighbours.h"
 #include "phonescript.h"
 #include "testphone.h"
 #include "testscreen.h"
@@ -86,17 +85,14 @@ public:
         return last.isNoMoreThan(first);
     }
 
-    void send(const char *command, const QStringList &texts = {})
-    {
-        m_phone.core.postAppMsg("contact", QLatin1String(command), Neighbours::payload(texts));
-    }
+    void showForm() { m_phone.send("contact", "viewContactSearchDir(str)", {}); }
     void answer()
     {
         const QString name = "run/directory-AbCdEf.xml";
         m_phone.writeFile(name,
                           "<a><display count=\"30\"/><item><data><type>name</type><value>Kim</value></data>"
                           "<data><type>number</type><value>12</value></data></item></a>");
-        send("http2ui_directory_service_response(str,int)", {m_phone.home.path(name)});
+        m_phone.send("contact", "http2ui_directory_service_response(str,int)", {m_phone.home.path(name)});
     }
 
 private:
@@ -148,7 +144,7 @@ constexpr int AnswersOfRound = 10;
 PhoneScript answers(LongRun *run)
 {
     PhoneScript script;
-    script.call([run] { run->send("viewContactSearchDir(str)"); }).untilActive("SearchDir");
+    script.call([run] { run->showForm(); }).untilActive("SearchDir");
     for (int i = 0; i < AnswersOfRound; ++i)
         script.call([run] { run->answer(); }).untilActive("SearchDirResult").opens(Qt::Key_Escape, "SearchDir");
     return script.keys({Qt::Key_Escape}).until("the form to go", [] { return !QApplication::activeWindow(); });

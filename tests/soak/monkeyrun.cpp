@@ -13,7 +13,6 @@
 #include "wpsmcontactmanager.h"
 
 #include <QApplication>
-#include <QDataStream>
 #include <QRegularExpression>
 #include <QThread>
 
@@ -248,12 +247,9 @@ void MonkeyRun::changeStore(const QByteArray &name, const QByteArray &words)
         store->saveGroup(GroupData(-1, "Group " + words, ""), false);
         return;
     }
-    ContactData contact;
-    contact.name = QString::fromUtf8(words);
-    contact.setNumbers({"55", words}, {ContactData::Home, ContactData::Mobile});
     const QList<ContactData> all = store->getAllContacts();
     if (name == "add" && all.size() < 60)
-        store->saveContact(contact, false);
+        store->saveContact(person(QString::fromUtf8(words), {"55", words}), false);
     else if (!all.isEmpty())
         store->deleteContact(all.at(words.toInt() % all.size()).id, ContactData::LocalContact);
 }
@@ -278,10 +274,7 @@ void MonkeyRun::answer(const QByteArray &document)
     const QString name = QString("run/directory-%1.xml").arg(m_count, 6, 10, QChar('0'));
     if (!document.isEmpty() && m_faultyFor == 0)
         m_phone.writeFile(name, document);
-    QByteArray payload;
-    QDataStream stream(&payload, QIODevice::WriteOnly);
-    stream << m_phone.home.path(name) << qint32(0);
-    post("http2ui_directory_service_response(str,int)", payload);
+    m_phone.send("contact", "http2ui_directory_service_response(str,int)", {m_phone.home.path(name), 0});
 }
 
 bool MonkeyRun::isOfContacts(const QWidget *window) const

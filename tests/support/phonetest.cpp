@@ -1,6 +1,5 @@
 #include "phonetest.h"
 
-#include "control/apppayload.h"
 #include "phonekey.h"
 #include "tail.h"
 
@@ -34,10 +33,8 @@ void PhoneTest::type(const QString &text)
 
 void PhoneTest::send(const QString &app, const QString &command, const QVariantList &items)
 {
-    QByteArray payload;
-    QString fault;
-    QVERIFY2(AppPayload::encode(command, items, &payload, &fault), qPrintable(fault));
-    sendRaw(app, command, payload);
+    m_phone->send(app, command, items);
+    QCoreApplication::processEvents();
 }
 
 void PhoneTest::sendRaw(const QString &app, const QString &command, const QByteArray &payload)

@@ -2,12 +2,14 @@
 #define PHONETEST_H
 
 #include "basewidget.h"
+#include "contactmanager.h"
 #include "control/messagelog.h"
 #include "listview.h"
 #include "phonekeys.h"
+#include "phonescript.h"
 #include "testcase.h"
+#include "testmain.h"
 #include "testphone.h"
-#include "testscreen.h"
 
 #include <memory>
 
@@ -42,6 +44,9 @@ protected:
     QStringList sent();
     /// Payloads that no sender of this phone writes.
     static QList<QByteArray> senselessPayloads();
+
+    ContactManager *store() const { return m_phone->core.contactManager(); }
+    int addGroup(const QString &name) { return store()->saveGroup(GroupData(-1, name, ""), false); }
 
     // What a person sees, of the screen at hand or another one.
     QString title() const { return m_phone->status.title(); }

@@ -1,5 +1,6 @@
 #include "testcase.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -14,6 +15,7 @@ void TestCase::init()
 {
     m_expected.clear();
     m_unexpected.clear();
+    m_dir.reset(new QTemporaryDir);
     s_running = this;
     m_formerHandler = qInstallMessageHandler(handleMessage);
     setUp();
@@ -62,4 +64,18 @@ void TestCase::handleMessage(QtMsgType type, const QMessageLogContext &context, 
     }
     if (s_running && s_running->m_formerHandler)
         s_running->m_formerHandler(type, context, text);
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qWarning("%s cannot be written", qPrintable(path));
+    return path;
 }

@@ -4,15 +4,18 @@
 #include <QObject>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <initializer_list>
+#include <memory>
 #include <utility>
 
 /// The base of every test class: a Qt warning that was not announced fails the test function in which it came, and
 /// so does an announced one that stayed away, or a window left open.
 ///
-/// A class overrides `setUp` and `tearDown`, which run around each of its test functions.
+/// A class overrides `setUp` and `tearDown`, which run around each of its test functions. Each finds its folder
+/// empty.
 class TestCase : public QObject
 {
     Q_OBJECT
@@ -23,6 +26,8 @@ protected:
 
     /// Announces one warning whose text contains this pattern.
     void expectWarning(const QString &pattern);
+
+    std::unique_ptr<QTemporaryDir> m_dir;
 
 private slots:
     void init();
@@ -36,6 +41,11 @@ private:
     QList<QRegularExpression> m_expected;
     QStringList m_unexpected;
 };
+
+/// Nothing of a file that cannot be read.
+QByteArray readFile(const QString &path);
+/// Makes a file of this content and returns its path.
+QString writeFile(const QString &path, const QByteArray &content);
 
 /// The rows of a table of test data, each one struct: QFETCH(Case, c) gives it to the test function.
 template <class Case> void addCases(std::initializer_list<std::pair<const char *, Case>> cases)

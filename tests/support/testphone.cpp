@@ -1,20 +1,19 @@
 #include "testphone.h"
 
 #include "contactmanager.h"
+#include "testcase.h"
 
-#include <QFile>
 #include <QProcess>
-#include <QTest>
 
-PhoneHome TestPhone::makeHome(const QTemporaryDir &folder)
+PhoneHome TestPhone::makeHome(const QString &folder)
 {
-    const PhoneHome home(folder.path());
+    const PhoneHome home(folder);
     home.create();
     home.enter();
     return home;
 }
 
-TestPhone::TestPhone() : home(makeHome(folder)), core(home)
+TestPhone::TestPhone() : home(makeHome(folder.path())), core(home)
 {
     status.setGeometry(0, 0, 384, 26);
     core.setStatusWidget(&status);
@@ -29,13 +28,7 @@ TestPhone::~TestPhone()
 
 int TestPhone::addContact(const QString &name, const QStringList &numbers)
 {
-    ContactData contact;
-    contact.name = name;
-    QList<int> types;
-    for (int i = 0; i < numbers.size(); ++i)
-        types.append(ContactData::Company);
-    contact.setNumbers(numbers, types);
-    if (!core.contactManager()->saveContact(contact, false))
+    if (!core.contactManager()->saveContact(person(name, numbers), false))
         qWarning("The test's contact was not saved");
     return core.contactManager()->getIdByUsingNameAndNumber(name, numbers.value(0));
 }
@@ -44,10 +37,8 @@ void TestPhone::addContacts(int count)
 {
     QList<ContactImport> contacts;
     for (int i = 1; i <= count; ++i) {
-        ContactImport entry;
-        entry.contact.name = QString("Name %1").arg(i, 3, 10, QChar('0'));
-        entry.contact.setNumbers({QString::number(1000 + i)}, {ContactData::Mobile});
-        contacts.append(entry);
+        const QString name = QString("Name %1").arg(i, 3, 10, QChar('0'));
+        contacts.append({person(name, {QString::number(1000 + i)}), {}});
     }
     if (core.contactManager()->importContacts(contacts) != count)
         qWarning("The test's contacts were not saved");
@@ -82,7 +73,13 @@ void TestPhone::provisionPhonebook(int count)
 
 void TestPhone::writeFile(const QString &relative, const QByteArray &content)
 {
-    QFile file(home.path(relative));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qWarning("%s cannot be written", qPrintable(file.fileName()));
+    ::writeFile(home.path(relative), content);
+}
+
+void TestPhone::send(const QString &app, const QString &command, const QVariantList &items)
+{
+    QByteArray payload;
+    QString fault;
+    QVERIFY2(AppPayload::encode(command, items, &payload, &fault), qPrintable(fault));
+    core.postAppMsg(app, command, payload);
 }

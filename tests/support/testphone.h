@@ -2,13 +2,16 @@
 #define TESTPHONE_H
 
 #include "baseappinterface.h"
-#include "contactdata.h"
+#include "control/apppayload.h"
 #include "core.h"
+#include "people.h"
 #include "phonehome.h"
 #include "status.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <functional>
 
 /// A phone for one test function: an empty home in a temporary folder, the platform on it, and the status bar.
 class TestPhone
@@ -26,7 +29,11 @@ public:
     void disconnectMobile();
     /// Provisions a system phonebook that announces this many entries.
     void provisionPhonebook(int count);
+    /// A home in that folder, for this process.
+    static PhoneHome makeHome(const QString &folder);
     void writeFile(const QString &relative, const QByteArray &content);
+    /// Sends an application what another one would send it.
+    void send(const QString &app, const QString &command, const QVariantList &items);
 
     QTemporaryDir folder;
     PhoneHome home;
@@ -34,11 +41,10 @@ public:
     Status status;
 
 private:
-    static PhoneHome makeHome(const QTemporaryDir &folder);
     void runWpsm(const QStringList &arguments);
 };
 
-/// An application that keeps what it is sent.
+/// An application that keeps what it is sent: the commands, and what each says, its items with a space between.
 class ListeningApp final : public BaseAppInterface
 {
 public:
@@ -47,9 +53,19 @@ public:
 
     bool start(QWidget *, void *) override { return true; }
     void end() override { }
-    void receiveMsg(const QString &command, const QByteArray &) override { commands.append(command); }
+    void receiveMsg(const QString &command, const QByteArray &payload) override
+    {
+        QStringList words;
+        for (const QVariant &item : AppPayload::decode(command, payload))
+            words.append(item.toString());
+        commands.append(command);
+        heard.append(words.join(' ').trimmed());
+        if (onReceive)
+            onReceive();
+    }
 
-    QStringList commands;
+    QStringList commands, heard;
+    std::function<void()> onReceive;
 };
 
 #endif

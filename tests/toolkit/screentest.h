@@ -5,7 +5,6 @@
 #include "phonetest.h"
 #include "status.h"
 #include "tail.h"
-#include "testmain.h"
 
 #include <QPointer>
 #include <QSignalSpy>

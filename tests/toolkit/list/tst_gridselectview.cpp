@@ -27,15 +27,8 @@ class TestGridSelectView : public TestCase
 private slots:
     void moves()
     {
-        const struct
-        {
-            const char *name;
-            GridSelectView::eScrollType scrollType;
-            int size, from;
-            Qt::Key key;
-            int to, page;
-            bool moved; // pageMoved was emitted
-        } moves[] = {
+        // Each name, how it scrolls, how many cells, from which, the key, to which, the page, and if that is told.
+        const QList<std::tuple<const char *, decltype(ByRow), int, int, Qt::Key, int, int, bool>> moves = {
             {"column: up from the first", ByColumn, 14, 0, Up, 13, 3, true},
             {"column: down to the next page", ByColumn, 14, 5, Down, 6, 2, true},
             {"column: down from the last", ByColumn, 14, 13, Down, 0, 1, true},
@@ -54,19 +47,19 @@ private slots:
             {"row: down from the last line", ByRow, 14, 13, Down, 1, 1, true},
             {"no selection", ByColumn, 6, -1, Left, 0, 1, false},
         };
-        for (const auto &move : moves) {
-            GridWindow window(move.size, move.from);
-            window.list->setScrollType(move.scrollType);
+        for (const auto &[name, scrollType, cells, from, key, to, page, isTold] : moves) {
+            GridWindow window(cells, from);
+            window.list->setScrollType(scrollType);
             QVERIFY(window.showNow());
             QSignalSpy pages(window.list, &GridSelectView::pageMoved);
-            PhoneKeys::press(move.key);
-            PhoneKeys::repeat(move.key);
-            QCOMPARE(window.list->selectedIdx(), move.from);
-            PhoneKeys::release(move.key);
-            PhoneKeys::release(move.key); // whose press was elsewhere
-            QVERIFY2(window.list->selectedIdx() == move.to, move.name);
-            QVERIFY2(window.list->currentPage() == move.page, move.name);
-            QCOMPARE(values(pages), move.moved ? QList<int>{move.page} : QList<int>());
+            PhoneKeys::press(key);
+            PhoneKeys::repeat(key);
+            QCOMPARE(window.list->selectedIdx(), from);
+            PhoneKeys::release(key);
+            PhoneKeys::release(key); // whose press was elsewhere
+            QVERIFY2(window.list->selectedIdx() == to, name);
+            QVERIFY2(window.list->currentPage() == page, name);
+            QCOMPARE(values(pages), isTold ? QList<int>{page} : QList<int>());
         }
     }
 

@@ -14,16 +14,9 @@ class TestListView : public PhoneTest
 private slots:
     void moves()
     {
-        const struct
-        {
-            int rows;
-            List disabled;
-            int selected, start;
-            List keys;
-            int newSelected, newStart;
-            List focusChanged;
-            bool wraps;
-        } moves[] = {
+        // Rows, disabled ones, the selected and the first one, the keys, these two anew, the focus as told,
+        // wrapping.
+        const QList<std::tuple<int, List, int, int, List, int, int, List, bool>> moves = {
             {5, {}, 2, 0, {Down}, 3, 1, {3}, true}, // moves the window
             {5, {0, 1}, 4, 2, {Down}, 2, 0, {2}, true}, // wraps to the first enabled
             {8, {1, 2, 3}, 0, 0, {Down}, 4, 2, {4}, true}, // leaps over disabled rows
@@ -36,22 +29,22 @@ private slots:
             {3, {0, 1, 2}, -1, 0, {Down}, -1, 0, {}, true},
             {0, {}, 0, 0, {Down}, -1, 0, {-1}, true},
         };
-        for (const auto &move : moves) {
-            ListWindow window(move.rows);
-            window.list->setSelectedIdx(move.selected);
-            for (int row : move.disabled)
+        for (const auto &[rows, disabled, selected, start, keys, newSelected, newStart, told, wraps] : moves) {
+            ListWindow window(rows);
+            window.list->setSelectedIdx(selected);
+            for (int row : disabled)
                 window.list->item(row)->setItemSelectEnable(false);
-            window.list->wrapAround = move.wraps;
+            window.list->wrapAround = wraps;
             QVERIFY(window.showNow());
-            window.list->setStartIdx(move.start);
+            window.list->setStartIdx(start);
 
-            QSignalSpy changes(window.list, &ListView::focusChanged), keys(window.list, &ListView::keyPressed);
-            PhoneKeys::clickAll(move.keys);
-            QCOMPARE(window.list->selectedIdx(), move.newSelected);
-            QCOMPARE(window.list->startIdx(), move.newStart);
-            QCOMPARE(values(changes), move.focusChanged);
-            QCOMPARE(values(keys), move.keys);
-            QCOMPARE(window.presses, move.keys); // arrows are left to the screen, too
+            QSignalSpy changes(window.list, &ListView::focusChanged), pressed(window.list, &ListView::keyPressed);
+            PhoneKeys::clickAll(keys);
+            QCOMPARE(window.list->selectedIdx(), newSelected);
+            QCOMPARE(window.list->startIdx(), newStart);
+            QCOMPARE(values(changes), told);
+            QCOMPARE(values(pressed), keys);
+            QCOMPARE(window.presses, keys); // arrows are left to the screen, too
             QCOMPARE(window.releases, List()); // and their releases are spent
         }
     }
@@ -154,15 +147,7 @@ private slots:
         // Rows are 34 pixels high. The bar takes the last 8 of 374 columns; row 0 has a solid separator, row 1 a
         // dotted. The frame stands over the separator.
         const auto floating = ListViewFocusFloating;
-        const struct
-        {
-            const char *name;
-            int rows, selected;
-            eListViewItemFocusType focusType;
-            int scrollBar;
-            bool pressed;
-            const char *pixels;
-        } looks[] = {
+        const QList<std::tuple<const char *, int, int, eListViewItemFocusType, int, bool, const char *>> looks = {
             {"list-thin", 8, 0, floating, 0, false,
              "white 369,60 200,0 200,33 2,67 367,67 3,101 #bbb 370,60 0,67 366,67 black 6,0 6,32"},
             {"list-clear", 8, 4, floating, 1, false, "white 368,50 373,50 370,10 #555 369,50 372,50"},
@@ -171,21 +156,21 @@ private slots:
             {"list-last", 3, 2, floating, 0, false, "black 6,67 6,101 373,95 #bbb 2,33"},
             {"list-bar", 8, 1, ListViewFocusBar, 0, false, "black 0,34 366,50 white 200,32 2,67 #bbb 0,67"},
             {"list-empty", 0, 0, floating, 0, false, "white 0,33"}};
-        for (const auto &look : looks) {
-            ListWindow window(look.rows);
-            window.list->setFocusType(look.focusType);
-            for (int i = 0; i < look.rows; ++i)
-                window.list->item(i)->setFocusType(look.focusType);
-            if (look.rows > 0)
+        for (const auto &[name, rows, selected, focusType, scrollBar, isPressed, pixels] : looks) {
+            ListWindow window(rows);
+            window.list->setFocusType(focusType);
+            for (int i = 0; i < rows; ++i)
+                window.list->item(i)->setFocusType(focusType);
+            if (rows > 0)
                 window.list->item(0)->setUnderLineType(ListViewItem::UnderLineSolid);
             window.list->setShowEmptyString(true);
-            window.list->setSelectedIdx(look.selected);
-            window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(look.scrollBar));
+            window.list->setSelectedIdx(selected);
+            window.list->setScrollbarBorderType(ListView::eListViewScrollBarType(scrollBar));
             QVERIFY(window.showNow());
-            window.list->setStartIdx(look.selected > 2 ? look.selected / 3 * 3 : 0);
-            if (look.pressed)
+            window.list->setStartIdx(selected > 2 ? selected / 3 * 3 : 0);
+            if (isPressed)
                 PhoneKeys::press(Enter);
-            window.checkPicture(look.name, look.pixels);
+            window.checkPicture(name, pixels);
         }
     }
 };

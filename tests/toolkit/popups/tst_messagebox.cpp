@@ -62,31 +62,28 @@ private slots:
 
     void keysEndIt()
     {
-        const struct
-        {
-            Qt::Key key;
-            QString looks; // of the additional button, OK and cancel
-            int result, extraResult;
-        } endings[] = {{Qt::Key_Context2, "0+0-", 1, 1},
-                       {Qt::Key_Context3, "1+1-", 1, 2},
-                       {Qt::Key_Enter, "1+1-", 1, 2},
-                       {Qt::Key_Return, "1+1-", 1, 2},
-                       {Qt::Key_Context4, "2+2-", 0, 0},
-                       {Qt::Key_Escape, "2+2-", 0, 0},
-                       {Qt::Key_Context1, "", StillOpen, Box::Untouched},
-                       {Qt::Key_Tab, "", StillOpen, Box::Untouched}};
-        for (const auto &ending : endings) {
+        // Each key, the looks of the additional button, OK and cancel, the result and the extra one.
+        const QList<std::tuple<Qt::Key, QString, int, int>> endings
+            = {{Qt::Key_Context2, "0+0-", 1, 1},
+               {Qt::Key_Context3, "1+1-", 1, 2},
+               {Qt::Key_Enter, "1+1-", 1, 2},
+               {Qt::Key_Return, "1+1-", 1, 2},
+               {Qt::Key_Context4, "2+2-", 0, 0},
+               {Qt::Key_Escape, "2+2-", 0, 0},
+               {Qt::Key_Context1, "", StillOpen, Box::Untouched},
+               {Qt::Key_Tab, "", StillOpen, Box::Untouched}};
+        for (const auto &[key, expectedLooks, expectedResult, extraResult] : endings) {
             Box box(m_screen.get());
             QString looks;
             keepLooks({box.additionalButton(), box.okButton(), box.cancelButton()}, &looks);
-            const int result = runBox(box, [&] {
-                press(ending.key);
+            const int result = runBox(box, [&, key = key] {
+                press(key);
                 QVERIFY(box.isVisible() && box.hasFocus());
-                release(ending.key);
+                release(key);
             });
-            QCOMPARE(result, ending.result);
-            QCOMPARE(box.extraResult(), ending.extraResult);
-            QCOMPARE(looks, ending.looks);
+            QCOMPARE(result, expectedResult);
+            QCOMPARE(box.extraResult(), extraResult);
+            QCOMPARE(looks, expectedLooks);
             QVERIFY(screenHasKeys());
         }
     }
@@ -149,12 +146,8 @@ private slots:
 
     void pictures()
     {
-        const struct
-        {
-            QString name, message, subMessage, additional;
-            bool alarm;
-            int held;
-        } looks[]
+        // Each name, the message and what is below it, the additional button, whether it is an alarm, the held key.
+        const QList<std::tuple<QString, QString, QString, QString, bool, int>> looks
             = {{"box-pressed", "김철수를 삭제할까요?", "", "More", false, Qt::Key_Return},
                {"box-cancel-pressed", "Delete Anna?", "", "Create Group", false, Qt::Key_Escape},
                {"box-two-lines", "Delete the group?", "Group members will move to Unassigned group", "", false, 0},
@@ -162,25 +155,25 @@ private slots:
                 false, 0},
                {"box-alarm", "Wake up", "", "", true, 0},
                {"box-long-alarm", "Good morning, this is your alarm of half past six", "", "More", true, 0}};
-        for (const auto &look : looks) {
+        for (const auto &[name, message, subMessage, additional, isAlarm, held] : looks) {
             Box box(m_screen.get());
-            box.setMessage(look.message);
-            if (!look.subMessage.isEmpty())
-                box.setSubMessage(look.subMessage);
-            box.additionalButton()->setText(look.additional);
-            box.additionalButton()->setVisible(!look.additional.isEmpty());
-            if (look.alarm)
+            box.setMessage(message);
+            if (!subMessage.isEmpty())
+                box.setSubMessage(subMessage);
+            box.additionalButton()->setText(additional);
+            box.additionalButton()->setVisible(!additional.isEmpty());
+            if (isAlarm)
                 box.showAlarmMessage();
             // An alarm is cut to one line.
             const QString shownMessage = box.findChildren<QLabel *>().at(2)->text();
-            QCOMPARE(shownMessage.endsWith(QChar(0x2026)), look.name == "box-long-alarm");
+            QCOMPARE(shownMessage.endsWith(QChar(0x2026)), name == "box-long-alarm");
             QVERIFY(showAndActivate(&box));
-            if (look.held)
-                press(Qt::Key(look.held));
-            TestScreen::shot(look.name);
+            if (held)
+                press(Qt::Key(held));
+            TestScreen::shot(name);
             // A corner of the OK key's body.
             const QColor body = TestScreen::picture().pixelColor(192, 138);
-            QCOMPARE(body, QColor(look.held == Qt::Key_Return ? Qt::black : Qt::white));
+            QCOMPARE(body, QColor(held == Qt::Key_Return ? Qt::black : Qt::white));
         }
     }
 

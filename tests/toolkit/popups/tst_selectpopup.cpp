@@ -31,32 +31,28 @@ private slots:
     {
         const int enter = Qt::Key_Return, down = Qt::Key_Down, page = Qt::Key_Context3, cancel = Qt::Key_Context4,
                   yes = QDialog::Accepted, no = QDialog::Rejected;
-        const struct
-        {
-            bool multiple;
-            QList<int> keys;
-            int result, idx;
-            QString looks; // of the next, the OK and the cancel button
-        } endings[] = {{false, {down, enter}, yes, 1, ""},
-                       {false, {down, cancel}, no, -1, "2+2-"},
-                       {false, {Qt::Key_Escape}, no, -1, "2+2-"},
-                       {false, {Qt::Key_Context1, Qt::Key_5}, StillOpen, -1, ""},
-                       {false, {page, page, enter}, yes, 0, "0+0-0+0-"},
-                       {true, {down, enter}, StillOpen, 1, ""},
-                       {true, {enter, page}, yes, 0, "0+0-"},
-                       {true, {enter, cancel}, no, -1, "2+2-"}};
-        for (const auto &ending : endings) {
+        // Many choices or one, the keys, the result and the index, the looks of the next, OK and cancel buttons.
+        const QList<std::tuple<bool, QList<int>, int, int, QString>> endings
+            = {{false, {down, enter}, yes, 1, ""},
+               {false, {down, cancel}, no, -1, "2+2-"},
+               {false, {Qt::Key_Escape}, no, -1, "2+2-"},
+               {false, {Qt::Key_Context1, Qt::Key_5}, StillOpen, -1, ""},
+               {false, {page, page, enter}, yes, 0, "0+0-0+0-"},
+               {true, {down, enter}, StillOpen, 1, ""},
+               {true, {enter, page}, yes, 0, "0+0-"},
+               {true, {enter, cancel}, no, -1, "2+2-"}};
+        for (const auto &[multiple, keys, expectedResult, idx, expectedLooks] : endings) {
             FilledPopup popup(m_screen.get());
-            popup.setMultipleCheck(ending.multiple);
+            popup.setMultipleCheck(multiple);
             QString looks;
             keepLooks({popup.nextButton(), popup.okButton(), popup.cancelButton()}, &looks);
-            const int result = runBox(popup, [&] {
+            const int result = runBox(popup, [&, keys = keys] {
                 QVERIFY(!theCore->soundManager()->isEnabledKeytone());
-                clickAll(ending.keys);
+                clickAll(keys);
             });
-            QCOMPARE(result, ending.result);
-            QCOMPARE(popup.selectedIdx(), ending.idx);
-            QCOMPARE(looks, ending.looks);
+            QCOMPARE(result, expectedResult);
+            QCOMPARE(popup.selectedIdx(), idx);
+            QCOMPARE(looks, expectedLooks);
             QVERIFY(theCore->soundManager()->isEnabledKeytone());
             QVERIFY(screenHasKeys());
         }

@@ -12,26 +12,22 @@ class ToastTest : public ScreenTest
 private slots:
     void keysEndIt()
     {
-        const struct
-        {
-            bool ignoreKey;
-            QString keys; // presses and releases
-            bool stays;
-        } cases[] = {{false, "+-", false},
-                     {false, "+", true},
-                     {false, "-", true} /* of a key held before */,
-                     {false, "-+-", false},
-                     {true, "+-+-", true}};
-        for (const auto &c : cases) {
+        // Whether it ignores keys, presses and releases, whether it stays; a first release is of a key held before.
+        const QList<std::tuple<bool, QString, bool>> cases = {{false, "+-", false},
+                                                              {false, "+", true},
+                                                              {false, "-", true},
+                                                              {false, "-+-", false},
+                                                              {true, "+-+-", true}};
+        for (const auto &[ignoreKey, keys, stays] : cases) {
             Toast toast("Words", Forever, m_screen.get());
-            toast.setIgnoreKey(c.ignoreKey);
+            toast.setIgnoreKey(ignoreKey);
             QSignalSpy ended(&toast, &Toast::toastTimeout), clicked(screen()->bar(), &Tail::clicked);
-            const bool stayed = run(toast, [&] {
-                for (const QChar key : c.keys)
+            const bool stayed = run(toast, [keys = keys] {
+                for (const QChar key : keys)
                     key == '+' ? press(Qt::Key_Context1) : release(Qt::Key_Context1);
             });
-            QCOMPARE(stayed, c.stays);
-            QCOMPARE(ended.size(), c.stays ? 0 : 1);
+            QCOMPARE(stayed, stays);
+            QCOMPARE(ended.size(), stays ? 0 : 1);
             QVERIFY2(clicked.isEmpty(), "the screen heard the key");
             click(Qt::Key_Context1);
             QVERIFY2(!clicked.isEmpty(), "the screen has no keys");
@@ -84,27 +80,24 @@ private slots:
     void pictures()
     {
         const QString longText("A notice that is by far too long for the one line that the panel has for it");
-        const struct
-        {
-            QString name, text, icon;
-            bool box, narrow;
-            int frame; // a column of it
-        } looks[] = {{"plain", "The keyword is too short", "", false, false, 5},
-                     {"lines", "Number is full\nDelete other Number First", "error_emoti", false, false, 5},
-                     {"long", longText, "confirm", false, false, 5},
-                     {"narrow", "Deleted", "delete", false, true, 3},
-                     {"box", "Saved", "", true, false, 105},
-                     {"box-icon", longText.left(60), "delete", true, false, 29}};
-        for (const auto &look : looks) {
-            Toast toast(look.text, Forever, m_screen.get());
-            toast.setUseFullScreen(!look.box);
-            toast.setResized(look.narrow);
-            if (!look.icon.isEmpty())
-                toast.setIcon(QPixmap(QString(":ui/images/widget/%1.png").arg(look.icon)));
+        // Each name, the text, the icon, whether it is a box and whether it is narrow, and a column of its frame.
+        const QList<std::tuple<QString, QString, QString, bool, bool, int>> looks
+            = {{"plain", "The keyword is too short", "", false, false, 5},
+               {"lines", "Number is full\nDelete other Number First", "error_emoti", false, false, 5},
+               {"long", longText, "confirm", false, false, 5},
+               {"narrow", "Deleted", "delete", false, true, 3},
+               {"box", "Saved", "", true, false, 105},
+               {"box-icon", longText.left(60), "delete", true, false, 29}};
+        for (const auto &[name, text, icon, isBox, isNarrow, frame] : looks) {
+            Toast toast(text, Forever, m_screen.get());
+            toast.setUseFullScreen(!isBox);
+            toast.setResized(isNarrow);
+            if (!icon.isEmpty())
+                toast.setIcon(QPixmap(QString(":ui/images/widget/%1.png").arg(icon)));
             toast.show();
             QCoreApplication::processEvents();
-            TestScreen::shot("toast-" + look.name);
-            QCOMPARE(TestScreen::picture().pixelColor(look.frame, 80), QColor(Qt::black));
+            TestScreen::shot("toast-" + name);
+            QCOMPARE(TestScreen::picture().pixelColor(frame, 80), QColor(Qt::black));
         }
     }
 

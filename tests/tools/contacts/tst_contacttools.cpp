@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QSettings>
-#include <QTemporaryDir>
 
 /// phonebook and wpsm as they are run, beside a phone and without one.
 class TestContactTools : public TestCase
@@ -86,11 +85,7 @@ private slots:
     }
 
 private:
-    void setUp() override
-    {
-        m_dir.reset(new QTemporaryDir);
-        m_home.reset(new PhoneHome(m_dir->filePath("home")));
-    }
+    void setUp() override { m_home.reset(new PhoneHome(m_dir->filePath("home"))); }
     /// Runs a program and returns its exit code; what it wrote stands in m_out and m_error.
     int run(const QString &program, const QStringList &arguments, const QByteArray &input = {})
     {
@@ -109,10 +104,7 @@ private:
     }
     QString write(const QString &name, const QByteArray &content) const
     {
-        QFile file(m_dir->filePath(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(content);
-        return file.fileName();
+        return writeFile(m_dir->filePath(name), content);
     }
     static QByteArray person(const QByteArray &name, const QByteArray &lines)
     {
@@ -124,7 +116,6 @@ private:
             + person("이민준", "TEL:3\r\nNOTE:memo");
     }
 
-    QScopedPointer<QTemporaryDir> m_dir;
     QScopedPointer<PhoneHome> m_home;
     QString m_out, m_error;
 };

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QTextCodec>
 
 static QByteArray eucKr(const char *text)
@@ -161,11 +160,7 @@ private slots:
     }
 
 private:
-    void setUp() override
-    {
-        m_dir.reset(new QTemporaryDir);
-        QDir::setSearchPaths("photo", {m_dir->path()});
-    }
+    void setUp() override { QDir::setSearchPaths("photo", {m_dir->path()}); }
     void tearDown() override { QDir::setSearchPaths("photo", {}); }
 
     VCardFile read(QByteArray text) const
@@ -178,7 +173,6 @@ private:
     {
         return "BEGIN:VCARD\r\nVERSION:" + version + "\r\n" + lines + "\r\nEND:VCARD\r\n";
     }
-    QScopedPointer<QTemporaryDir> m_dir;
 };
 
 QTEST_GUILESS_MAIN(TestVCards)

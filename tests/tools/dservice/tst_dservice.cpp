@@ -2,10 +2,8 @@
 
 #include "testcase.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <httplib.h>
 
@@ -69,11 +67,9 @@ private:
     /// Serves a file of this name and content, and gets from it.
     void serve(const QString &name, const QByteArray &content, const QStringList &options = {})
     {
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0);
-        file.close();
+        const QString file = writeFile(m_dir->filePath(name), content);
         m_server.start(PHONE_PROGRAMS "/dservice",
-                       QStringList{"--data", file.fileName(), "--port", "0", "--user", "-"} + options);
+                       QStringList{"--data", file, "--port", "0", "--user", "-"} + options);
         m_server.write("a:b:c\n");
         QVERIFY(m_server.waitForReadyRead());
         m_port = m_server.readLine().trimmed().toInt();
@@ -106,7 +102,6 @@ private:
     }
     void tearDown() override { m_server.terminate(), m_server.waitForFinished(); }
 
-    QTemporaryDir m_folder;
     QProcess m_server;
     int m_port = 0;
 };
