@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""One table of what the benchmarks measured, from the JSON files named."""
+"""One table of what the benchmarks measured, from the JSON files named: the medians of their repetitions."""
 
 import json
 import sys
@@ -38,7 +38,9 @@ def read(files):
             for run in json.load(file)["benchmarks"]:
                 if run.get("error_occurred"):
                     sys.exit(f"{run['name']}: {run['error_message']}")
-                row, side, size = run["name"].split("/")[:3]
+                if run.get("aggregate_name") != "median":
+                    continue
+                row, side, size = run["run_name"].split("/")[:3]
                 run["us"] = run["real_time"] * MICROSECONDS[run["time_unit"]]
                 measured[row][int(size)][side] = run
     return measured

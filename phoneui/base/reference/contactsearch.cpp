@@ -103,7 +103,6 @@ void ContactSearch::load(QList<ContactData> contacts, int dataVersion)
 {
     clear();
     m_contacts.reserve(contacts.size());
-    m_lineEnds.reserve(contacts.size());
     const std::vector<Place> order = orderOfNames(contacts);
     for (const Place &place : order) {
         ContactData contact = contacts.at(place.idx);
@@ -111,9 +110,7 @@ void ContactSearch::load(QList<ContactData> contacts, int dataVersion)
         for (int slot = 0; slot < ContactData::NumberCount; ++slot)
             contact.setNumber(slot, compacted(contact.number(slot)), contact.numberType(slot));
         m_contacts.append(contact);
-        appendLine(contact);
     }
-    m_lines.squeeze();
     // The room of the texts just read would stay with the process.
     contacts.clear();
     ::malloc_trim(0);
@@ -129,7 +126,15 @@ void ContactSearch::clear()
     m_loaded = false;
 }
 
-void ContactSearch::appendLine(const ContactData &contact)
+void ContactSearch::makeLines() const
+{
+    m_lineEnds.reserve(m_contacts.size());
+    for (const ContactData &contact : m_contacts)
+        appendLine(contact);
+    m_lines.squeeze();
+}
+
+void ContactSearch::appendLine(const ContactData &contact) const
 {
     TextFolding::appendNameLine(&m_lines, contact.name);
     for (int slot = 0; slot < ContactData::NumberCount; ++slot) {
@@ -147,6 +152,8 @@ QList<ContactData> ContactSearch::matches(const QString &word) const
 {
     if (word.isEmpty())
         return m_contacts;
+    if (m_lineEnds.isEmpty())
+        makeLines();
     const QString folded = TextFolding::fold(word);
     QVector<int> found;
     if (!folded.isEmpty()) {

@@ -8,7 +8,7 @@
 #include <QVector>
 
 /// The contacts of a store in memory, in the order of their names, and a search through them: each is one folded
-/// line, and all lines are scanned for every word.
+/// line, and all lines are scanned for every word. The lines are made for the first word that is looked for.
 class ContactSearch
 {
 public:
@@ -24,11 +24,12 @@ public:
     QList<ContactData> matches(const QString &word) const;
 
 private:
-    void appendLine(const ContactData &contact);
+    void makeLines() const;
+    void appendLine(const ContactData &contact) const;
 
     QList<ContactData> m_contacts;
-    QString m_lines;
-    QVector<int> m_lineEnds; ///< in m_lines, by contact
+    mutable QString m_lines;
+    mutable QVector<int> m_lineEnds; ///< in m_lines, by contact; none before the lines are made
     int m_dataVersion = 0;
     bool m_loaded = false;
 };

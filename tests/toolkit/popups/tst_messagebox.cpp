@@ -1,6 +1,7 @@
 #include "inputpopup.h"
 #include "messagebox.h"
 #include "screentest.h"
+#include "slidemessagebox.h"
 
 #include <QLabel>
 
@@ -85,6 +86,19 @@ private slots:
             QCOMPARE(box.extraResult(), extraResult);
             QCOMPARE(looks, expectedLooks);
             QVERIFY(screenHasKeys());
+        }
+    }
+
+    void theSlidingBoxComesAndGoesAtOnce()
+    {
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Escape), 0}) {
+            SlideMessageBox box(m_screen.get());
+            const int result = runBox(box, [&] {
+                QCOMPARE(box.geometry(), QRect(0, 0, 384, 160));
+                key ? click(Qt::Key(key)) : void(box.close());
+                QVERIFY(!box.isVisible());
+            });
+            QCOMPARE(result, key == Qt::Key_Return ? 1 : 0);
         }
     }
 
