@@ -28,25 +28,26 @@ private slots:
     void moves()
     {
         // Each name, how it scrolls, how many cells, from which, the key, to which, the page, and if that is told.
-        const QList<std::tuple<const char *, decltype(ByRow), int, int, Qt::Key, int, int, bool>> moves = {
-            {"column: up from the first", ByColumn, 14, 0, Up, 13, 3, true},
-            {"column: down to the next page", ByColumn, 14, 5, Down, 6, 2, true},
-            {"column: down from the last", ByColumn, 14, 13, Down, 0, 1, true},
-            {"column: left to the page before", ByColumn, 14, 7, Left, 4, 1, true},
-            {"column: left from the first column", ByColumn, 14, 1, Left, 13, 3, true},
-            {"column: left, one page, first cell", ByColumn, 6, 0, Left, 5, 1, true},
-            {"column: left, one page, a line up", ByColumn, 6, 2, Left, 4, 1, true},
-            {"column: right, one page, last column", ByColumn, 6, 3, Right, 1, 1, false},
-            {"column: right, one page, last cell", ByColumn, 6, 5, Right, 0, 1, false},
-            {"column: right to a shorter page", ByColumn, 14, 11, Right, 13, 3, true},
-            {"column: right from the last column", ByColumn, 12, 10, Right, 1, 2, false},
-            {"column: right past a short last page", ByColumn, 14, 13, Right, 1, 1, true},
-            {"row: up from the first line", ByRow, 13, 1, Up, 11, 3, true},
-            {"row: up to the page before", ByRow, 14, 7, Up, 5, 1, true},
-            {"row: down to the next page", ByRow, 14, 4, Down, 6, 2, true},
-            {"row: down from the last line", ByRow, 14, 13, Down, 1, 1, true},
-            {"no selection", ByColumn, 6, -1, Left, 0, 1, false},
-        };
+        const QList<std::tuple<const char *, GridSelectView::eScrollType, int, int, Qt::Key, int, int, bool>> moves
+            = {
+                {"column: up from the first", ByColumn, 14, 0, Up, 13, 3, true},
+                {"column: down to the next page", ByColumn, 14, 5, Down, 6, 2, true},
+                {"column: down from the last", ByColumn, 14, 13, Down, 0, 1, true},
+                {"column: left to the page before", ByColumn, 14, 7, Left, 4, 1, true},
+                {"column: left from the first column", ByColumn, 14, 1, Left, 13, 3, true},
+                {"column: left, one page, first cell", ByColumn, 6, 0, Left, 5, 1, true},
+                {"column: left, one page, a line up", ByColumn, 6, 2, Left, 4, 1, true},
+                {"column: right, one page, last column", ByColumn, 6, 3, Right, 1, 1, false},
+                {"column: right, one page, last cell", ByColumn, 6, 5, Right, 0, 1, false},
+                {"column: right to a shorter page", ByColumn, 14, 11, Right, 13, 3, true},
+                {"column: right from the last column", ByColumn, 12, 10, Right, 1, 2, false},
+                {"column: right past a short last page", ByColumn, 14, 13, Right, 1, 1, true},
+                {"row: up from the first line", ByRow, 13, 1, Up, 11, 3, true},
+                {"row: up to the page before", ByRow, 14, 7, Up, 5, 1, true},
+                {"row: down to the next page", ByRow, 14, 4, Down, 6, 2, true},
+                {"row: down from the last line", ByRow, 14, 13, Down, 1, 1, true},
+                {"no selection", ByColumn, 6, -1, Left, 0, 1, false},
+            };
         for (const auto &[name, scrollType, cells, from, key, to, page, isTold] : moves) {
             GridWindow window(cells, from);
             window.list->setScrollType(scrollType);
