@@ -91,7 +91,6 @@ private:
     char byte(const char *at) const { return at == m_end ? m_last : *at; }
     /// The place behind the byte at `at`; nothing lies behind the last one.
     char *behind(char *at) const { return at == m_end ? at : at + 1; }
-    bool startsWith(const char *at, std::string_view word) const;
     /// The place of these bytes, or null.
     char *findClosing(char *at, std::string_view word) const;
     [[gnu::cold, gnu::noinline]] char *fail(const char *at, std::string_view fault);
@@ -155,11 +154,11 @@ void EzxmlParser::parse()
         return readCloseTag(at + 1);
     if (*at == '?')
         return readInstruction(at + 1);
-    if (startsWith(at, "!--"))
+    if (startsWith(at, m_end, "!--"))
         return readComment(at + 3);
-    if (startsWith(at, "![CDATA["))
+    if (startsWith(at, m_end, "![CDATA["))
         return readCharacterData(at + 8);
-    if (startsWith(at, "!DOCTYPE"))
+    if (startsWith(at, m_end, "!DOCTYPE"))
         return readDoctype(at + 8);
     return fail(at, "unexpected <");
 }
@@ -517,16 +516,11 @@ void EzxmlParser::finish()
         m_root->attr = m_doctype.table(&m_memory);
 }
 
-bool EzxmlParser::startsWith(const char *at, std::string_view word) const
-{
-    return std::string_view(at, distance(at, m_end)).substr(0, word.size()) == word;
-}
-
 char *EzxmlParser::findClosing(char *at, std::string_view word) const
 {
     const std::size_t inner = word.size() - 1;
     for (at = find(at, m_end, word[0]); at; at = find(at + 1, m_end, word[0])) {
-        if (startsWith(at, word.substr(0, inner)) && byte(at + inner) == word.back())
+        if (startsWith(at, m_end, word.substr(0, inner)) && byte(at + inner) == word.back())
             return at;
     }
     return nullptr;

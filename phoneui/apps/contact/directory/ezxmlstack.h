@@ -21,7 +21,6 @@ public:
     bool isEmpty() const { return m_behind == m_first; }
     T *begin() { return m_first; }
     T *end() { return m_behind; }
-    const T *end() const { return m_behind; }
     T &operator[](std::size_t index) { return m_first[index]; }
     const T &operator[](std::size_t index) const { return m_first[index]; }
     T &top() { return m_behind[-1]; }

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
@@ -87,11 +88,9 @@ inline char *putUtf8(char *to, unsigned code)
 }
 
 /// How many bytes the functions below read at once, up to the last place from which so many can be read.
-const std::size_t reach = 32;
+const std::size_t reach = 16;
 
 #ifdef __SSE2__
-const std::size_t blockSize = 16;
-
 inline __m128i block(const char *at)
 {
     return _mm_loadu_si128(reinterpret_cast<const __m128i *>(at));
@@ -126,16 +125,16 @@ inline __m128i within(__m128i bytes, char low, char high)
 #endif
 
 /// Whether the text up to `end` starts with these bytes.
-inline bool startsWith(const char *at, const char *end, const char *bytes, std::size_t length)
+inline bool startsWith(const char *at, const char *end, std::string_view bytes)
 {
-    return static_cast<std::size_t>(end - at) >= length && std::memcmp(at, bytes, length) == 0;
+    return static_cast<std::size_t>(end - at) >= bytes.size() && std::memcmp(at, bytes.data(), bytes.size()) == 0;
 }
 
 /// The first byte that is no NameChar.
 inline char *findNameEnd(char *at, const char *lastReach)
 {
 #ifdef __SSE2__
-    for (; at <= lastReach; at += blockSize) {
+    for (; at <= lastReach; at += reach) {
         const __m128i bytes = block(at);
         const __m128i letters = within(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
         const __m128i others = _mm_andnot_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')), within(bytes, '-', ':'));
@@ -153,7 +152,7 @@ inline char *findNameEnd(char *at, const char *lastReach)
 template <typename Char> Char *findContentMark(Char *at, const char *lastReach, const char *end)
 {
 #ifdef __SSE2__
-    for (; at <= lastReach; at += blockSize) {
+    for (; at <= lastReach; at += reach) {
         if (const unsigned set = contentMarks(at))
             return at + __builtin_ctz(set);
     }
@@ -167,7 +166,7 @@ template <typename Char> Char *findContentMark(Char *at, const char *lastReach, 
 inline char *findValueMark(char *at, const char *lastReach, const char *end, char quote)
 {
 #ifdef __SSE2__
-    for (; at <= lastReach; at += blockSize) {
+    for (; at <= lastReach; at += reach) {
         const __m128i bytes = block(at);
         const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1f)), bytes);
         if (const unsigned set = bits(_mm_or_si128(either(bytes, quote, '&'), control)))
