@@ -8,6 +8,7 @@ namespace {
 
 // "PhoC" in the file's header.
 constexpr int ApplicationId = 0x50686f43;
+constexpr int ContactColumnCount = 10;
 
 const SqliteSchema &contactSchema()
 {
@@ -34,20 +35,11 @@ const SqliteSchema &contactSchema()
     return schema;
 }
 
-ContactData contactOfRow(const SqliteStatement &row)
+void addRecord(ContactRecords *records, const SqliteStatement &row)
 {
-    ContactData contact;
-    contact.id = row.number(0);
-    contact.name = row.text(1);
-    contact.picture = row.text(2);
-    contact.email1 = row.text(3);
-    contact.email2 = row.text(4);
-    contact.email3 = row.text(5);
-    contact.memo = row.text(6);
-    contact.bell = row.text(7);
-    contact.buddyId = row.text(8);
-    contact.extra = row.text(9);
-    return contact;
+    records->add(row.number(0));
+    for (int column = 1; column < ContactColumnCount; ++column)
+        records->addText(row.utf8(column));
 }
 
 /// The values of CONTACT_COLUMNS after the id. A null text stays null.
@@ -80,7 +72,7 @@ ContactDatabase::ContactDatabase(const QString &path, SqliteFile::Access access)
 {
 }
 
-bool ContactDatabase::readContacts(QList<ContactData> *contacts) const
+bool ContactDatabase::readContacts(ContactRecords *records) const
 {
     SqliteStatement rows = m_file.statement("SELECT " CONTACT_COLUMNS " FROM contacts ORDER BY id");
     SqliteStatement numbers
@@ -90,13 +82,12 @@ bool ContactDatabase::readContacts(QList<ContactData> *contacts) const
     // Both come in the order of the ids, so they are merged as they are read.
     bool more = numbers.next();
     while (rows.next()) {
-        ContactData contact = contactOfRow(rows);
-        while (more && numbers.number(0) < contact.id)
+        addRecord(records, rows);
+        const int id = rows.number(0);
+        while (more && numbers.number(0) < id)
             more = numbers.next();
-        for (; more && numbers.number(0) == contact.id; more = numbers.next())
-            contact.setNumber(numbers.number(1) - 1, numbers.text(3),
-                              static_cast<ContactData::Telnum_Type>(numbers.number(2)));
-        contacts->append(contact);
+        for (; more && numbers.number(0) == id; more = numbers.next())
+            records->addNumber(numbers.number(1), numbers.number(2), numbers.utf8(3));
     }
     return true;
 }
@@ -106,13 +97,13 @@ ContactData ContactDatabase::contact(int id) const
     SqliteStatement row = m_file.statement("SELECT " CONTACT_COLUMNS " FROM contacts WHERE id = ?");
     if (!row.run({id}) || !row.next())
         return ContactData();
-    ContactData contact = contactOfRow(row);
+    ContactRecords records;
+    addRecord(&records, row);
     SqliteStatement numbers = m_file.statement("SELECT slot, kind, number FROM numbers WHERE contact_id = ?");
     numbers.run({id});
     while (numbers.next())
-        contact.setNumber(numbers.number(0) - 1, numbers.text(2),
-                          static_cast<ContactData::Telnum_Type>(numbers.number(1)));
-    return contact;
+        records.addNumber(numbers.number(0), numbers.number(1), numbers.utf8(2));
+    return records.contact(0);
 }
 
 QVariant ContactDatabase::value(const char *sql, const SqliteValues &values) const
@@ -149,9 +140,9 @@ void ContactDatabase::refreshSearch()
     if (!m_search.needsReload(version))
         return;
     m_search.clear();
-    QList<ContactData> contacts;
-    if (readContacts(&contacts))
-        m_search.load(std::move(contacts), version);
+    ContactRecords records;
+    if (readContacts(&records))
+        m_search.load(std::move(records), ContactData::LocalContact, version);
 }
 
 bool ContactDatabase::insert(const ContactData &contact, const QList<int> &groupIds, ContactRows *rows)

@@ -2,6 +2,7 @@
 #define CONTACTDATABASE_H
 
 #include "contactdata.h"
+#include "contactrecords.h"
 #include "contactsearch.h"
 #include "sqlitefile.h"
 #include "sqliterows.h"
@@ -26,8 +27,8 @@ public:
 
     /// All contacts in the order of their names, of one name by id. They stay in memory until the file changes.
     QList<ContactData> allContacts();
-    /// All contacts by id, past what is in memory; false when the file cannot be read.
-    bool readContacts(QList<ContactData> *contacts) const;
+    /// The records of all contacts by id, past what is in memory; false when the file cannot be read.
+    bool readContacts(ContactRecords *records) const;
     /// The contact, or an empty one with id 0.
     ContactData contact(int id) const;
     QList<ContactData> search(const QString &word);

@@ -3,48 +3,8 @@
 #include "textfolding.h"
 
 #include <algorithm>
-#include <malloc.h>
-#include <vector>
 
 namespace {
-
-/// A place among the names. Their first letters decide most comparisons, and stand together with those of the
-/// others.
-struct Place
-{
-    quint64 letters;
-    int idx;
-};
-
-quint64 firstLetters(const QString &name)
-{
-    quint64 letters = 0;
-    for (int i = 0; i < 4; ++i)
-        letters = letters << 16 | (i < name.size() ? name.at(i).unicode() : 0);
-    return letters;
-}
-
-/// Where the contacts stand when they are in the order of their names, by code unit; those of one name keep theirs.
-std::vector<Place> orderOfNames(const QList<ContactData> &contacts)
-{
-    std::vector<Place> order;
-    order.reserve(std::size_t(contacts.size()));
-    for (int i = 0; i < contacts.size(); ++i)
-        order.push_back({firstLetters(contacts.at(i).name), i});
-    std::sort(order.begin(), order.end(), [&](const Place &a, const Place &b) {
-        if (a.letters != b.letters)
-            return a.letters < b.letters;
-        const int difference = QString::compare(contacts.at(a.idx).name, contacts.at(b.idx).name);
-        return difference != 0 ? difference < 0 : a.idx < b.idx;
-    });
-    return order;
-}
-
-/// A copy of its own: texts that stand in memory in the order in which they are read are read faster.
-QString compacted(const QString &text)
-{
-    return text.isEmpty() ? text : QString(text.constData(), text.size());
-}
 
 /// Finds a word in a long text. Looks for its two ends in many places at once, in loops that the compiler turns
 /// into vector instructions: short words, which come with every search, leave the usual algorithms nothing to skip.
@@ -99,21 +59,15 @@ private:
 
 }
 
-void ContactSearch::load(QList<ContactData> contacts, int dataVersion)
+void ContactSearch::load(ContactRecords records, ContactData::Contact_Type type, int dataVersion)
 {
     clear();
-    m_contacts.reserve(contacts.size());
-    const std::vector<Place> order = orderOfNames(contacts);
-    for (const Place &place : order) {
-        ContactData contact = contacts.at(place.idx);
-        contact.name = compacted(contact.name);
-        for (int slot = 0; slot < ContactData::NumberCount; ++slot)
-            contact.setNumber(slot, compacted(contact.number(slot)), contact.numberType(slot));
-        m_contacts.append(contact);
+    records.sort();
+    m_contacts.reserve(records.size());
+    for (int i = 0; i < records.size(); ++i) {
+        m_contacts.append(records.contact(i));
+        m_contacts.last().type = type;
     }
-    // The room of the texts just read would stay with the process.
-    contacts.clear();
-    ::malloc_trim(0);
     m_loaded = true;
     m_dataVersion = dataVersion;
 }

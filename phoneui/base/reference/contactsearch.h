@@ -2,6 +2,7 @@
 #define CONTACTSEARCH_H
 
 #include "contactdata.h"
+#include "contactrecords.h"
 
 #include <QList>
 #include <QString>
@@ -14,8 +15,8 @@ class ContactSearch
 public:
     /// Whether the contacts are missing, or older than the data of that version.
     bool needsReload(int dataVersion) const { return !m_loaded || dataVersion != m_dataVersion; }
-    /// Takes the contacts; those of one name keep their order.
-    void load(QList<ContactData> contacts, int dataVersion);
+    /// Those of one name keep the order of the records.
+    void load(ContactRecords records, ContactData::Contact_Type type, int dataVersion);
     void clear();
 
     const QList<ContactData> &contacts() const { return m_contacts; }

@@ -28,23 +28,21 @@ void MobileDatabase::reload()
     ContactDatabase database(m_folder + QStringLiteral("/contacts.db"), SqliteFile::ReadOnly);
     if (!database.file().isOpen())
         return;
-    QList<ContactData> contacts;
-    database.readContacts(&contacts);
-    if (generation.isEmpty() || contacts.size() != count
+    ContactRecords records;
+    database.readContacts(&records);
+    if (generation.isEmpty() || records.size() != count
         || database.value("SELECT generation FROM device").toString() != generation) {
         qWarning() << "MobileDatabase: the files do not belong together in" << m_folder;
         return;
     }
-    for (ContactData &contact : contacts)
-        contact.type = ContactData::MobileContact;
-    take(ini.value(QStringLiteral("Device/Name")), generation, std::move(contacts));
+    take(ini.value(QStringLiteral("Device/Name")), generation, std::move(records));
 }
 
-void MobileDatabase::take(const QString &deviceName, const QString &generation, QList<ContactData> contacts)
+void MobileDatabase::take(const QString &deviceName, const QString &generation, ContactRecords records)
 {
     m_deviceName = deviceName;
     m_generation = generation;
-    m_search.load(std::move(contacts), 0);
+    m_search.load(std::move(records), ContactData::MobileContact, 0);
     m_positions.clear();
     for (int i = 0; i < m_search.contacts().size(); ++i)
         m_positions.insert(m_search.contacts().at(i).id, i);

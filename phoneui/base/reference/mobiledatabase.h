@@ -23,7 +23,7 @@ public:
     QList<ContactData> search(const QString &word) const { return m_search.matches(word); }
 
 private:
-    void take(const QString &deviceName, const QString &generation, QList<ContactData> contacts);
+    void take(const QString &deviceName, const QString &generation, ContactRecords records);
 
     const QString m_folder;
     QString m_deviceName;

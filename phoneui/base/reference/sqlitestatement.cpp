@@ -58,11 +58,16 @@ QVariant SqliteStatement::value(int column) const
 
 QString SqliteStatement::text(int column) const
 {
+    const std::string_view text = utf8(column);
+    return QString::fromUtf8(text.data(), int(text.size()));
+}
+
+std::string_view SqliteStatement::utf8(int column) const
+{
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_statement.data(), column));
     if (!text)
-        return QString();
-    const int size = sqlite3_column_bytes(m_statement.data(), column);
-    return size > 0 ? QString::fromUtf8(text, size) : QLatin1String(""); // shared
+        return {};
+    return {text, std::size_t(sqlite3_column_bytes(m_statement.data(), column))};
 }
 
 int SqliteStatement::number(int column) const

@@ -6,6 +6,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <string_view>
+
 struct sqlite3_stmt;
 
 /// What stands for a question mark: a number or a text. A null text is NULL.
@@ -51,6 +53,8 @@ public:
     QVariant value(int column) const;
     /// Null for NULL.
     QString text(int column) const;
+    /// The same as it stands in the file, up to the next row.
+    std::string_view utf8(int column) const;
     int number(int column) const;
     int rowsAffected() const;
     int lastId() const;

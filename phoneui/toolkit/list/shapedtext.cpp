@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int KeptTexts = 100; // a screen shows about twenty
+constexpr int KeptTexts = 500; // a screen shows about twenty, and a usual phonebook is leafed through to and fro
 
 struct Key
 {
