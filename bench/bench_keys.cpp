@@ -1,25 +1,20 @@
 // From an arrow key to the finished frame: the grid of contacts with its pages, the list of a group, the form of a
-// contact; each beside a QListView whose delegate paints the same rows.
+// contact; each beside a QListView whose delegate paints the same rows with the painter's own texts.
 //
-// The form's list has a line edit over its current row. The plain QListView paints that row only; the other one
-// opens an editor there, as a form must.
+// The form's list has a line edit over its current row, and the QListView opens an editor there, as a form must. A
+// second QListView is lent the rows of the phone, which keep their texts; a third has no editor.
 
 #include "contact.h"
-#include "focusframe.h"
 #include "groupdetail.h"
-#include "listgeometry.h"
-#include "listpainting.h"
 #include "listview.h"
-#include "listviewcontactitem.h"
 #include "numberedit.h"
 #include "phonebench.h"
 #include "phonekeys.h"
+#include "rowdelegates.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QStringListModel>
-#include <QStyledItemDelegate>
 
 namespace {
 
@@ -28,7 +23,6 @@ using Rows = QVector<ListViewItem *>;
 
 constexpr int Passes300 = 580, PassesForm = 450;
 constexpr int GridColumnSteps = 98, ListSteps = 290, FormSteps = 15;
-constexpr int RowHeight = 34, CellWidth = 187;
 
 /// So many steps in one direction, then back.
 void press(benchmark::State &state, QWidget *window, int onward, int back, int steps)
@@ -54,75 +48,42 @@ template <typename Screen> void show(Screen *screen)
     settle();
 }
 
-/// Paints the rows as the phone's lists do.
-class RowDelegate : public QStyledItemDelegate
-{
-public:
-    explicit RowDelegate(const Rows &rows) : m_rows(rows) { }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        ListViewItem *row = m_rows.at(index.row());
-        const bool selected = option.state & QStyle::State_Selected;
-        QRect rect = option.rect;
-        ListPainting::setColors(row, ListPainting::role(selected, ListViewFocusFloating, row));
-        row->paint(painter, rect);
-        ListPainting::drawDottedLine(painter, QLine(rect.bottomLeft(), rect.bottomRight()), Qt::white);
-        if (selected)
-            ListPainting::drawFocused(painter, row, rect, ListGeometry::focusFrame(rect, false, true), false,
-                                      row->baseTextColor());
-    }
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
-    {
-        return QSize(option.rect.width(), RowHeight);
-    }
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &) const override
-    {
-        return new QLineEdit(parent);
-    }
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override
-    {
-        static_cast<QLineEdit *>(editor)->setText(index.data().toString());
-    }
-    void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override { }
-    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
-                              const QModelIndex &) const override
-    {
-        editor->setGeometry(option.rect.adjusted(option.rect.width() / 2, 2, -5, -2));
-    }
-
-private:
-    const Rows m_rows;
-};
-
 /// A list of Qt's own over the same rows in the same place.
 struct Peer
 {
-    explicit Peer(const Rows &rows) : delegate(rows), list(&window)
+    enum Texts { PaintersOwn, Kept };
+
+    Peer(const Rows &rows, Texts texts) : phone(rows), plain(rows), list(&window)
     {
-        QStringList texts;
+        QStringList values;
         for (ListViewItem *row : rows) {
             row->setFocus(true);
-            texts.append(row->text());
+            values.append(row->text());
         }
-        model.setStringList(texts);
+        model.setStringList(values);
         window.setFixedSize(384, 134);
         list.setGeometry(5, 2, 374, 104);
         list.setFrameShape(QFrame::NoFrame);
         list.setModel(&model);
-        list.setItemDelegate(&delegate);
+        list.setItemDelegate(texts == Kept ? static_cast<RowDelegate *>(&phone) : &plain);
         list.setEditTriggers(QListView::NoEditTriggers);
         list.setUniformItemSizes(true);
     }
-    void show()
+    void run(benchmark::State &state, int onward, int back, int steps)
     {
+        if (!plain.paintsAs(phone)) {
+            state.SkipWithError("the rows look different");
+            return;
+        }
         PhoneKeys::showAndActivate(&window);
         list.setFocus();
         list.setCurrentIndex(model.index(0));
         settle();
+        press(state, &window, onward, back, steps);
     }
 
-    RowDelegate delegate;
+    PhoneDelegate phone;
+    PlainDelegate plain;
     QStringListModel model;
     QWidget window;
     QListView list;
@@ -154,7 +115,7 @@ void grid(benchmark::State &state)
     app.end();
 }
 
-void qtGrid(benchmark::State &state)
+void qtGrid(benchmark::State &state, Peer::Texts texts)
 {
     makeTeam();
     std::vector<std::unique_ptr<ListViewItem>> cells;
@@ -164,18 +125,17 @@ void qtGrid(benchmark::State &state)
         cells.emplace_back(new ListViewContactGridItem(contact.name, contact.id, contact.type));
         rows.append(cells.back().get());
     }
-    Peer peer(rows);
+    Peer peer(rows, texts);
     peer.list.setFlow(QListView::TopToBottom);
     peer.list.setWrapping(true);
-    peer.list.setGridSize(QSize(CellWidth, RowHeight));
+    peer.list.setGridSize(QSize(RowDelegate::CellWidth, RowDelegate::RowHeight));
     peer.list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QLabel title(&peer.window); // the place among all, which the phone has in its status bar
     title.setGeometry(0, 107, 384, 27);
     QObject::connect(
         peer.list.selectionModel(), &QItemSelectionModel::currentChanged, &title,
         [&title](const QModelIndex &at) { title.setText(QString("Contacts | All (%1/300)").arg(at.row() + 1)); });
-    peer.show();
-    press(state, &peer.window, Qt::Key_Right, Qt::Key_Left, GridColumnSteps);
+    peer.run(state, Qt::Key_Right, Qt::Key_Left, GridColumnSteps);
 }
 
 void list(benchmark::State &state)
@@ -186,13 +146,12 @@ void list(benchmark::State &state)
     press(state, &screen, Qt::Key_Down, Qt::Key_Up, ListSteps);
 }
 
-void qtList(benchmark::State &state)
+void qtList(benchmark::State &state, Peer::Texts texts)
 {
     makeTeam();
     const GroupDetail screen(nullptr, teamId());
-    Peer peer(rowsOf(screen));
-    peer.show();
-    press(state, &peer.window, Qt::Key_Down, Qt::Key_Up, ListSteps);
+    Peer peer(rowsOf(screen), texts);
+    peer.run(state, Qt::Key_Down, Qt::Key_Up, ListSteps);
 }
 
 void form(benchmark::State &state)
@@ -202,13 +161,12 @@ void form(benchmark::State &state)
     press(state, &screen, Qt::Key_Down, Qt::Key_Up, FormSteps);
 }
 
-void qtForm(benchmark::State &state, QListView::EditTrigger editing)
+void qtForm(benchmark::State &state, Peer::Texts texts, QListView::EditTrigger editing)
 {
     const NumberEdit screen(nullptr, makeTeam(), QString(), -1);
-    Peer peer(rowsOf(screen));
+    Peer peer(rowsOf(screen), texts);
     peer.list.setEditTriggers(editing);
-    peer.show();
-    press(state, &peer.window, Qt::Key_Down, Qt::Key_Up, FormSteps);
+    peer.run(state, Qt::Key_Down, Qt::Key_Up, FormSteps);
 }
 
 }
@@ -217,13 +175,22 @@ int main(int argc, char **argv)
 {
     return run(argc, argv, [] {
         add("key-grid/ours", grid, 300, Passes300);
-        add("key-grid/QListView", qtGrid, 300, Passes300);
         add("key-list/ours", list, 300, Passes300);
-        add("key-list/QListView", qtList, 300, Passes300);
         add("key-form/ours", form, 16, PassesForm);
+        const auto addPeers = [](const std::string &side, Peer::Texts texts) {
+            const auto name = [&](const char *row) { return row + side; };
+            add(
+                name("key-grid/").c_str(), [=](auto &state) { qtGrid(state, texts); }, 300, Passes300);
+            add(
+                name("key-list/").c_str(), [=](auto &state) { qtList(state, texts); }, 300, Passes300);
+            add(
+                name("key-form/").c_str(), [=](auto &state) { qtForm(state, texts, QListView::CurrentChanged); },
+                16, PassesForm);
+        };
+        addPeers("QListView", Peer::PaintersOwn);
+        addPeers("lent our rows", Peer::Kept);
         add(
-            "key-form/QListView", [](auto &state) { qtForm(state, QListView::NoEditTriggers); }, 16, PassesForm);
-        add(
-            "key-form/with editor", [](auto &state) { qtForm(state, QListView::CurrentChanged); }, 16, PassesForm);
+            "key-form/without editor",
+            [](auto &state) { qtForm(state, Peer::PaintersOwn, QListView::NoEditTriggers); }, 16, PassesForm);
     });
 }

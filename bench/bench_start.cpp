@@ -1,15 +1,21 @@
-// The plug-in from dlopen to its first frame, beside an empty dialog; and what it adds to the process's memory.
+// The plug-in from dlopen to its first frame, beside an empty dialog; and what it adds to the process's memory. The
+// floor is what no such plug-in can leave out: the library is loaded, bare SQLite reads the rows, a bare dialog
+// draws the first page.
 //
 // A library is loaded once in a process, so each pass is a process of its own: this program with a command.
 
 #include "baseappinterface.h"
 #include "phonebench.h"
+#include "plainrows.h"
 #include "pluginhost.h"
 
 #include <QDialog>
 #include <QFile>
+#include <QLibrary>
+#include <QPainter>
 #include <QProcess>
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -45,6 +51,54 @@ void showFirstFrame(QWidget *window)
     frame.waitForFrame();
 }
 
+/// The words, fonts and pictures of the phone's first page.
+class PlainPage : public QDialog
+{
+public:
+    std::vector<PlainRows::Record> records;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        static constexpr int Rows = 3, Cells = 6, CellWidth = 187, RowHeight = 34;
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        for (int i = 0; i < Cells; ++i) {
+            const QRect cell(i / Rows * CellWidth, i % Rows * RowHeight, CellWidth, RowHeight);
+            painter.drawText(cell, Qt::AlignVCenter, QString::fromStdString(records.at(std::size_t(i)).texts[0]));
+        }
+        for (const char *picture :
+             {"widget/focus_02_lefttop", "widget/focus_02_lefbottom", "widget/focus_02_righttop",
+              "widget/focus_02_rightbottom", "title/breadcrumb", "title/num_bg_left", "title/num_bg_right"})
+            painter.drawPixmap(0, 0, QPixmap(QStringLiteral(":/ui/images/%1.png").arg(QLatin1String(picture))));
+        drawWords(&painter, 20, QFont::Normal, {"Groups", "Search", "Edit Mode"});
+        drawWords(&painter, 20, QFont::Bold, {">"});
+        drawWords(&painter, 18, QFont::Normal, {"Contacts", "All", "1/300"});
+    }
+
+private:
+    static void drawWords(QPainter *painter, int points, int weight, const QStringList &words)
+    {
+        QFont font = painter->font();
+        font.setPointSize(points);
+        font.setWeight(weight);
+        painter->setFont(font);
+        for (const QString &word : words)
+            painter->drawText(0, points, word);
+    }
+};
+
+/// Loads the library without making anything of it, and shows the first page of the contacts.
+void showLeast(PlainPage *page, const PhoneHome &home, const QString &library)
+{
+    QLibrary(library).load();
+    PlainRows::read(home.contactDatabase(), &page->records);
+    PlainRows::read(home.mobileFolder() + "/contacts.db", &page->records);
+    std::sort(page->records.begin(), page->records.end(),
+              [](const auto &a, const auto &b) { return a.texts[0] < b.texts[0]; });
+    showFirstFrame(page);
+}
+
 /// One pass: prints both times and the bytes that came.
 int child(const QString &command, const QString &folder)
 {
@@ -57,18 +111,23 @@ int child(const QString &command, const QString &folder)
     showFirstFrame(&status); // the bar stands long before an application starts
 
     QDialog dialog;
-    dialog.setGeometry(0, 26, 384, 134);
+    PlainPage page;
+    for (QWidget *window : {&dialog, static_cast<QDialog *>(&page)})
+        window->setGeometry(0, 26, 384, 134);
+    const QString library = QCoreApplication::applicationDirPath() + "/../bin/contact.so";
     PluginHost host;
     const double before = residentBytes();
     const Stopwatch watch;
     if (command == "plugin") {
-        BaseAppInterface *app = host.load(QCoreApplication::applicationDirPath() + "/../bin/contact.so");
+        BaseAppInterface *app = host.load(library);
         auto *window = dynamic_cast<QWidget *>(app);
         if (!window)
             return 1;
         FrameWatch frame(window);
         app->start(nullptr, nullptr);
         frame.waitForFrame();
+    } else if (command == "floor") {
+        showLeast(&page, home, library);
     } else {
         showFirstFrame(&dialog);
     }
@@ -108,7 +167,7 @@ void measure(benchmark::State &state, const char *command, bool memory)
 int main(int argc, char **argv)
 {
     const QString command = argc == 3 ? QString::fromLocal8Bit(argv[1]) : QString();
-    if (command == "plugin" || command == "dialog") {
+    if (QStringList{"plugin", "floor", "dialog"}.contains(command)) {
         DisplaySetup::prepareEnvironment();
         QApplication app(argc, argv);
         DisplaySetup::prepareApplication();
@@ -121,6 +180,8 @@ int main(int argc, char **argv)
             "start/ours", [](auto &state) { measure(state, "plugin", false); }, 300, Processes);
         add(
             "start/QDialog", [](auto &state) { measure(state, "dialog", false); }, 300, Processes);
+        add(
+            "start/floor", [](auto &state) { measure(state, "floor", false); }, 300, Processes);
         for (const int count : {300, 10000})
             add(
                 "memory/ours", [](auto &state) { measure(state, "plugin", true); }, count, 3);

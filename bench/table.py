@@ -2,6 +2,7 @@
 """One table of what the benchmarks measured, from the JSON files named: the medians of their repetitions."""
 
 import json
+import math
 import sys
 from collections import defaultdict
 
@@ -19,6 +20,8 @@ ROWS = {
     "start": ("plug-in to its first frame, {} contacts", "QDialog", 2.0),
     "import": ("import of {} vCards", "KContacts", 1.3),
 }
+# Sides that no implementation could leave out.
+FLOORS = {"floor", "touch"}
 # At this size the ratio is not asked for; the row tells of growth alone.
 NOT_JUDGED = {("import", 300), ("search", 300)}
 # The longest that one key of a hundred may take, by the clock.
@@ -26,23 +29,26 @@ SEARCH_SIZE, SEARCH_LIMIT = 10000, 5000  # us
 XML_FROM, XML_TO, XML_GROWTH = 1000, 200000, 1.2
 MEMORY_LIMITS = {300: ("under 4 MB", lambda added, records: added < 4e6),
                  10000: ("at most 3.00", lambda added, records: added <= 3 * records)}
-HEAD = ("what", "ours", "the peer", "ratio", "wanted", "verdict", "growth")
+HEAD = ("what", "ours", "the peer", "ratio", "wanted", "floor", "verdict", "growth")
 MICROSECONDS = {"ns": 1e-3, "us": 1, "ms": 1e3, "s": 1e6}
 
 
 def read(files):
-    """measured[row][size][side] is one benchmark."""
+    """measured[row][size][side] is one benchmark: the median of its repetitions, of a floor the lowest."""
     measured = defaultdict(lambda: defaultdict(dict))
     for name in files:
         with open(name, encoding="utf-8") as file:
             for run in json.load(file)["benchmarks"]:
                 if run.get("error_occurred"):
                     sys.exit(f"{run['name']}: {run['error_message']}")
-                if run.get("aggregate_name") != "median":
-                    continue
                 row, side, size = run["run_name"].split("/")[:3]
                 run["us"] = run["real_time"] * MICROSECONDS[run["time_unit"]]
-                measured[row][int(size)][side] = run
+                same = measured[row][int(size)]
+                if side not in FLOORS:
+                    if run.get("aggregate_name") == "median":
+                        same[side] = run
+                elif run["run_type"] == "iteration" and run["us"] < same.get(side, {"us": math.inf})["us"]:
+                    same[side] = run
     return measured
 
 
@@ -56,8 +62,23 @@ def spaced(number):
     return f"{number:,}".replace(",", " ")
 
 
-def verdict(met):
-    return "met" if met else "MISSED"
+def verdict(met, floor_above=False):
+    """Nothing goes below its floor: where that lies above the target, the row can only come near it."""
+    return "met" if met else "floor" if floor_above else "MISSED"
+
+
+def floor_of(row, sizes, size):
+    """What no implementation can leave out, in us; None where nothing of that kind was measured."""
+    if row == "xml" and size == XML_TO and XML_FROM in sizes:
+        return size * grown_item(sizes, size)
+    floor = sizes[size].get("floor")
+    return floor and floor["us"]
+
+
+def grown_item(sizes, size):
+    """An item of a large document, in us, if nothing of the reader grew but the touching of text and records."""
+    each = {(at, side): sizes[at][side]["us"] / at for at in (XML_FROM, size) for side in ("ours", "touch")}
+    return each[XML_FROM, "ours"] + each[size, "touch"] - each[XML_FROM, "touch"]
 
 
 def growth(sizes, size):
@@ -69,32 +90,38 @@ def growth(sizes, size):
     return f"{each / (sizes[smallest]['ours']['us'] / smallest):.2f} of {spaced(smallest)}"
 
 
+def judged_cells(ours, peer, floor, limit):
+    """Wanted, floor and verdict, for times in us."""
+    floor_ratio = floor / peer if floor else 0
+    return [f"at most {limit:.2f}", f"{floor_ratio:.2f}" if floor else "",
+            verdict(ours <= limit * peer, floor_ratio > limit)]
+
+
 def timed_lines(row, sizes):
     title, judge, limit = ROWS[row]
     for size in sorted(sizes):
         ours = sizes[size]["ours"]
         what = title.format(spaced(size))
-        peers = sorted((side for side in sizes[size] if side != "ours"), key=lambda side: side != judge)
+        peers = sorted((side for side in sizes[size] if side not in {"ours", *FLOORS}), key=lambda side: side != judge)
         for side in peers or [None]:
-            line = [what, duration(ours["us"]), "", "", "", "", growth(sizes, size)]
+            line = [what, duration(ours["us"]), "", "", "", "", "", growth(sizes, size)]
             if side:
                 peer = sizes[size][side]["us"]
                 line[2:4] = [f"{side} {duration(peer)}", f"{ours['us'] / peer:.2f}"]
                 if side == judge and (row, size) not in NOT_JUDGED:
-                    line[4:6] = [f"at most {limit:.2f}", verdict(ours["us"] <= limit * peer)]
+                    line[4:7] = judged_cells(ours["us"], peer, floor_of(row, sizes, size), limit)
             yield line
         if row == "search":
             slowest = ours["clock_p99_us"]
             judged = size == SEARCH_SIZE
             yield [what + ", 99th percentile", duration(slowest), "", "",
-                   "under " + duration(SEARCH_LIMIT) if judged else "",
+                   "under " + duration(SEARCH_LIMIT) if judged else "", "",
                    verdict(slowest < SEARCH_LIMIT) if judged else "", ""]
     if row == "xml" and {XML_FROM, XML_TO} <= set(sizes):
         at = {size: sizes[size]["ours"]["us"] / size for size in (XML_FROM, XML_TO)}
-        ratio = at[XML_TO] / at[XML_FROM]
         yield [f"XML, an item of {spaced(XML_TO)}", f"{at[XML_TO] * 1e3:.0f} ns",
-               f"one of {spaced(XML_FROM)}: {at[XML_FROM] * 1e3:.0f} ns", f"{ratio:.2f}",
-               f"at most {XML_GROWTH:.2f}", verdict(ratio <= XML_GROWTH), ""]
+               f"one of {spaced(XML_FROM)}: {at[XML_FROM] * 1e3:.0f} ns", f"{at[XML_TO] / at[XML_FROM]:.2f}",
+               *judged_cells(at[XML_TO], at[XML_FROM], grown_item(sizes, XML_TO), XML_GROWTH), ""]
 
 
 def memory_lines(sizes):
@@ -103,7 +130,7 @@ def memory_lines(sizes):
         added, records = run["added_bytes"], run["record_bytes"]
         wanted, met = MEMORY_LIMITS[size]
         yield [f"memory with {spaced(size)} contacts", f"{added / 1e6:.2f} MB", f"records {records / 1e6:.2f} MB",
-               f"{added / records:.2f}", wanted, verdict(met(added, records)), ""]
+               f"{added / records:.2f}", wanted, "", verdict(met(added, records)), ""]
 
 
 def main():

@@ -8,8 +8,8 @@
 namespace {
 
 constexpr std::array<QString ContactData::*, 9> Texts
-    = {&ContactData::name,   &ContactData::picture, &ContactData::email1,  &ContactData::email2, &ContactData::email3,
-       &ContactData::memo,   &ContactData::bell,    &ContactData::buddyId, &ContactData::extra};
+    = {&ContactData::name, &ContactData::picture, &ContactData::email1,  &ContactData::email2, &ContactData::email3,
+       &ContactData::memo, &ContactData::bell,    &ContactData::buddyId, &ContactData::extra};
 
 /// Reads what lies in the block one behind the other.
 class Reader

@@ -13,7 +13,8 @@
 class ContactRecords
 {
 public:
-    /// The next contact. Its texts are added after it and then its numbers, all in UTF-8 and null where there is none.
+    /// The next contact. Its texts are added after it and then its numbers, all in UTF-8 and null where there is
+    /// none.
     void add(int id);
     /// Name, picture, the three addresses, memo, bell, buddy id, extra: one after the other.
     void addText(std::string_view text);
