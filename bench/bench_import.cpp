@@ -87,10 +87,10 @@ void leastImport(benchmark::State &state)
         TestPhone phone;
         const QString path = cardFile(phone, count);
         const Stopwatch watch;
-        const KContacts::Addressee::List read = readAll(path);
+        const int read = readAll(path).size(); // and freed
         const bool written = PlainRows::write(phone.home.contactDatabase(), records);
         passes.add(watch);
-        if (read.size() != count || !written || phone.core.contactManager()->getCountOfContact() != count)
+        if (read != count || !written || phone.core.contactManager()->getCountOfContact() != count)
             state.SkipWithError("contacts were lost");
     }
     passes.report();

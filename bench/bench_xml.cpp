@@ -218,7 +218,8 @@ int main(int argc, char **argv)
         {"xml/ours", readOurs}, {"xml/pugixml", readPugi}, {"xml/RapidXML", readRapid}, {"xml/Expat", readExpat}};
     for (const int items : {20, 1000, 20000, 200000}) {
         const auto add = [items](auto *benchmark) {
-            benchmark->Arg(items)->UseManualTime()->Iterations(std::max(3, 400000 / std::max(items, PassItems)));
+            benchmark->Arg(items)->UseManualTime()->Repetitions(27);
+            benchmark->Iterations(std::max(1, 100000 / std::max(items, PassItems)));
         };
         for (const auto &[name, reader] : readers)
             add(benchmark::RegisterBenchmark(name, measureReader, reader));

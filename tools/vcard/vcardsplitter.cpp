@@ -5,14 +5,14 @@
 #include <QTextCodec>
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace {
 
 // A card with a large photo stays far below this; what goes beyond is no card.
 constexpr int LargestCard = 16 * 1024 * 1024;
-// The device makes room for this much before it knows how long a line is.
-constexpr int LinePiece = 4096;
+// What is read of the device at once.
+constexpr int Piece = 64 * 1024;
 // Without a photo.
 constexpr int UsualCard = 4096;
 
@@ -21,21 +21,30 @@ bool isSpace(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// Whether the line holds this text and white space.
-bool isLine(const QByteArray &line, const char *text)
+std::string_view trimmed(std::string_view line)
 {
-    const char *begin = line.constData(), *end = begin + line.size();
-    while (begin < end && isSpace(*begin))
-        ++begin;
-    while (begin < end && isSpace(end[-1]))
-        --end;
-    const std::size_t length = std::size_t(end - begin);
-    return length == std::strlen(text) && qstrnicmp(begin, text, uint(length)) == 0;
+    while (!line.empty() && isSpace(line.front()))
+        line.remove_prefix(1);
+    while (!line.empty() && isSpace(line.back()))
+        line.remove_suffix(1);
+    return line;
 }
 
-bool beginsWith(const QByteArray &line, const char *name)
+bool beginsWith(std::string_view line, std::string_view name)
 {
-    return qstrnicmp(line.constData(), name, uint(std::strlen(name))) == 0;
+    return line.size() >= name.size() && qstrnicmp(line.data(), name.data(), uint(name.size())) == 0;
+}
+
+/// Whether the line holds this text and white space.
+bool isLine(std::string_view line, std::string_view text)
+{
+    const std::string_view content = trimmed(line);
+    return content.size() == text.size() && beginsWith(content, text);
+}
+
+bool endsWith(std::string_view line, char c)
+{
+    return !line.empty() && line.back() == c;
 }
 
 bool decodes(const QByteArray &bytes, QTextCodec *codec, QString *text)
@@ -45,9 +54,12 @@ bool decodes(const QByteArray &bytes, QTextCodec *codec, QString *text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-bool isAscii(const QByteArray &line)
+bool isAscii(std::string_view line)
 {
-    return std::all_of(line.begin(), line.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    char any = 0; // looked at as a whole, which the compiler does many bytes at a time
+    for (const char c : line)
+        any |= c;
+    return static_cast<signed char>(any) >= 0;
 }
 
 QByteArray inUtf8(const QByteArray &line)
@@ -55,11 +67,16 @@ QByteArray inUtf8(const QByteArray &line)
     static QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
     static QTextCodec *const korean = QTextCodec::codecForName("EUC-KR");
     QString text;
-    if (isAscii(line) || decodes(line, utf8, &text) || line.toUpper().contains("CHARSET="))
+    if (decodes(line, utf8, &text) || line.toUpper().contains("CHARSET="))
         return line;
     if (!decodes(line, korean, &text))
         text = QString::fromLatin1(line);
     return text.toUtf8();
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
 bool isNameLetter(char c)
@@ -69,17 +86,15 @@ bool isNameLetter(char c)
 
 /// Whether the line begins with the name of a group, or of a property that has another plain form. Most lines do
 /// not.
-bool mayDiffer(const QByteArray &line)
+bool mayDiffer(std::string_view line)
 {
     const auto nameEnd = std::find_if_not(line.begin(), line.end(), isNameLetter);
     return (nameEnd != line.end() && *nameEnd == '.') || beginsWith(line, "PHOTO")
         || beginsWith(line, "CATEGORIES");
 }
 
-QByteArray plainForm(const QByteArray &line, bool continued)
+QByteArray plainForm(const QByteArray &line)
 {
-    if (continued || line.startsWith(' ') || line.startsWith('\t') || !mayDiffer(line))
-        return inUtf8(line);
     static const QRegularExpression group(QStringLiteral("^[A-Za-z0-9-]+\\.(?=[A-Za-z-]+[:;])"));
     static const QRegularExpression dataAddress(QStringLiteral("^PHOTO[^:]*:data:image/([a-z]+)[^,]*;base64,"),
                                                 QRegularExpression::CaseInsensitiveOption);
@@ -88,7 +103,7 @@ QByteArray plainForm(const QByteArray &line, bool continued)
                                                QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression escapedComma(QStringLiteral("(?<!\\\\)\\\\,"));
 
-    QString text = QString::fromLatin1(inUtf8(line));
+    QString text = QString::fromLatin1(line);
     text.remove(group);
     text.replace(dataAddress, QStringLiteral("PHOTO;ENCODING=b;TYPE=\\1:"));
     if (text.contains(categories))
@@ -96,9 +111,17 @@ QByteArray plainForm(const QByteArray &line, bool continued)
     return text.toLatin1();
 }
 
-bool isBlank(char c)
+void appendLine(QByteArray *card, std::string_view line, bool continued)
 {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+    const int size = int(line.size());
+    const bool asItStands = continued || (size > 0 && isBlank(line.front())) || !mayDiffer(line);
+    if (isAscii(line) && asItStands) {
+        card->append(line.data(), size);
+    } else {
+        const QByteArray text = inUtf8(QByteArray(line.data(), size));
+        *card += asItStands ? text : plainForm(text);
+    }
+    *card += "\r\n";
 }
 
 /// Where a text ends when blanks and line ends do not count.
@@ -138,34 +161,41 @@ void closeLastValue(QByteArray *card)
     }
 }
 
-bool opensInnerCard(const QByteArray &line)
+bool opensInnerCard(std::string_view line)
 {
-    return beginsWith(line, "AGENT") && line.trimmed().endsWith(':');
+    return beginsWith(line, "AGENT") && endsWith(trimmed(line), ':');
 }
 
 }
 
-VCardSplitter::VCardSplitter(QIODevice *device) : m_device(device)
-{
-    m_line.reserve(LinePiece);
-}
+VCardSplitter::VCardSplitter(QIODevice *device) : m_device(device) { }
 
 bool VCardSplitter::readLine()
 {
-    m_line.resize(0);
-    qint64 read = 0;
+    int searched = 0, end = -1;
     do {
-        const int size = m_line.size();
-        m_line.resize(size + LinePiece);
-        read = m_device->readLine(m_line.data() + size, LinePiece);
-        m_line.resize(size + int(qMax(read, qint64(0))));
-    } while (read > 0 && !m_line.endsWith('\n') && m_line.size() < LargestCard);
-    if (m_line.isEmpty())
+        end = m_buffer.indexOf('\n', m_nextLine + searched);
+        searched = m_buffer.size() - m_nextLine;
+    } while (end < 0 && searched < LargestCard && readMore());
+    const int begin = std::exchange(m_nextLine, end < 0 ? m_buffer.size() : end + 1);
+    m_line = {m_buffer.constData() + begin, std::size_t(m_nextLine - begin)};
+    if (m_line.empty())
         return false;
-    if (m_lineNumber == 0 && m_line.startsWith("\xef\xbb\xbf"))
-        m_line.remove(0, 3);
+    if (m_lineNumber == 0 && beginsWith(m_line, "\xef\xbb\xbf"))
+        m_line.remove_prefix(3);
     ++m_lineNumber;
     return true;
+}
+
+/// Appends to the line that is not whole yet.
+bool VCardSplitter::readMore()
+{
+    m_buffer.remove(0, std::exchange(m_nextLine, 0));
+    const int size = m_buffer.size();
+    m_buffer.resize(size + Piece);
+    const qint64 read = m_device->read(m_buffer.data() + size, Piece);
+    m_buffer.resize(size + int(qMax(read, qint64(0))));
+    return read > 0;
 }
 
 bool VCardSplitter::next(VCardText *card)
@@ -203,20 +233,18 @@ bool VCardSplitter::next(VCardText *card)
             continued = announced = false;
             continue;
         }
-        while (m_line.endsWith('\n') || m_line.endsWith('\r'))
-            m_line.chop(1);
+        while (endsWith(m_line, '\n') || endsWith(m_line, '\r'))
+            m_line.remove_suffix(1);
         if (ends)
             closeLastValue(&card->text);
-        if (card->text.size() < LargestCard) {
-            card->text += plainForm(m_line, continued);
-            card->text += "\r\n";
-        }
+        if (card->text.size() < LargestCard)
+            appendLine(&card->text, m_line, continued);
         if (ends) {
             if (card->text.size() >= LargestCard)
                 card->problem = QStringLiteral("too large");
             return true;
         }
-        continued = m_line.endsWith('=');
+        continued = endsWith(m_line, '=');
         announced = opensInnerCard(m_line);
     }
     card->problem = QStringLiteral("no END:VCARD");

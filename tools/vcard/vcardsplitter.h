@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string_view>
+
 class QIODevice;
 
 /// One card of a file as it stands there.
@@ -28,9 +30,12 @@ public:
 
 private:
     bool readLine();
+    bool readMore();
 
     QIODevice *const m_device;
-    QByteArray m_line; ///< the last one read; keeps its room for the next
+    QByteArray m_buffer; ///< what the device gave, from the last line read on
+    int m_nextLine = 0; ///< in m_buffer
+    std::string_view m_line; ///< the last one read, there as well
     int m_lineNumber = 0;
     bool m_beginRead = false; ///< the last line read began the next card
 };

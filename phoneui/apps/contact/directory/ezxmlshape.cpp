@@ -119,7 +119,7 @@ char *EzxmlShape::match(char *at, const char *lastReach, const char *end)
     m_coded = 0;
     for (std::size_t i = 0; i < m_valueCount; ++i) {
         const std::size_t length = m_values[i].before;
-        if (!startsWith(at, end, {literal, length}))
+        if (!startsWithPadded(at, lastReach, end, {literal, length}))
             return nullptr;
         literal += length;
         at = findEnd(i, at + length, lastReach, end);
@@ -128,7 +128,7 @@ char *EzxmlShape::match(char *at, const char *lastReach, const char *end)
         m_marks[i + 1] = at;
     }
     const std::size_t length = m_literalLength - m_literalStart;
-    if (!startsWith(at, end, {literal, length}))
+    if (!startsWithPadded(at, lastReach, end, {literal, length}))
         return nullptr;
     m_credit = s_mostCredit;
     return at + length;

@@ -4,6 +4,7 @@
 #include "ezxmlentities.h"
 #include "ezxmlmemory.h"
 #include "ezxmlnames.h"
+#include "ezxmltext.h"
 
 #include <cstdint>
 #include <string_view>
@@ -84,7 +85,7 @@ private:
     std::size_t m_literalStart = 0; ///< of the literal behind the last value
     Record m_records[s_mostRecords];
     Value m_values[s_mostValues];
-    char m_literals[s_mostLiteral]; ///< one behind the other
+    char m_literals[s_mostLiteral + EzxmlText::reach]; ///< one behind the other
     // What the last match found: where it began, and the byte behind each value.
     char *m_marks[s_mostValues + 1];
     std::uint64_t m_coded = 0; ///< a bit for each value that is to be decoded

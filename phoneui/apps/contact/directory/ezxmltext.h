@@ -130,6 +130,23 @@ inline bool startsWith(const char *at, const char *end, std::string_view bytes)
     return static_cast<std::size_t>(end - at) >= bytes.size() && std::memcmp(at, bytes.data(), bytes.size()) == 0;
 }
 
+/// The same for bytes behind which as many more can be read as are read at once: quicker for a few of them.
+inline bool startsWithPadded(const char *at, const char *lastReach, const char *end, std::string_view bytes)
+{
+#ifdef __SSE2__
+    const char *from = bytes.data(), *const last = from + bytes.size();
+    for (; at <= lastReach; at += reach, from += reach) {
+        const unsigned same = bits(_mm_cmpeq_epi8(block(at), block(from)));
+        if (last - from <= static_cast<std::ptrdiff_t>(reach))
+            return (~same & ((1U << (last - from)) - 1)) == 0;
+        if (same != 0xffff)
+            return false;
+    }
+    bytes.remove_prefix(static_cast<std::size_t>(from - bytes.data()));
+#endif
+    return startsWith(at, end, bytes);
+}
+
 /// The first byte that is no NameChar.
 inline char *findNameEnd(char *at, const char *lastReach)
 {
