@@ -36,7 +36,7 @@ public:
     void setEmails(const QStringList &emails);
 
     /// The slots by position, 0 to NumberCount - 1; an index out of range reads as empty and writes nothing.
-    const QString &number(int slot) const;
+    const QString &number(int slot) const { return isSlot(slot) ? this->*s_numbers[slot] : noNumber(); }
     Telnum_Type numberType(int slot) const;
     void setNumber(int slot, const QString &number, Telnum_Type type);
     /// The addresses by position, 0 to EmailCount - 1.
@@ -61,6 +61,12 @@ public:
     QString bell; ///< path of the ring tone
     QString buddyId;
     QString extra; ///< carried for the platform; no screen reads it
+
+private:
+    static bool isSlot(int slot) { return slot >= 0 && slot < NumberCount; }
+    static const QString &noNumber();
+
+    static QString ContactData::*const s_numbers[NumberCount];
 };
 
 Q_DECLARE_TYPEINFO(ContactData, Q_MOVABLE_TYPE);

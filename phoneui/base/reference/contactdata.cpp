@@ -2,17 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
-using NumberField = QString ContactData::*;
 using TypeField = ContactData::Telnum_Type ContactData::*;
 using TextField = QString ContactData::*;
-
-constexpr std::array<NumberField, ContactData::NumberCount> Numbers
-    = {&ContactData::telnum1, &ContactData::telnum2, &ContactData::telnum3, &ContactData::telnum4,
-       &ContactData::telnum5, &ContactData::telnum6, &ContactData::telnum7, &ContactData::telnum8,
-       &ContactData::telnum9, &ContactData::telnum10};
 
 constexpr std::array<TypeField, ContactData::NumberCount> Types = {
     &ContactData::telnum1_type, &ContactData::telnum2_type, &ContactData::telnum3_type, &ContactData::telnum4_type,
@@ -25,12 +20,12 @@ constexpr std::array<TextField, ContactData::EmailCount> Emails
 constexpr std::array<TextField, 6> Texts = {&ContactData::name, &ContactData::picture, &ContactData::memo,
                                             &ContactData::bell, &ContactData::buddyId, &ContactData::extra};
 
-bool isSlot(int slot)
-{
-    return slot >= 0 && slot < ContactData::NumberCount;
 }
 
-}
+QString ContactData::*const ContactData::s_numbers[]
+    = {&ContactData::telnum1, &ContactData::telnum2, &ContactData::telnum3, &ContactData::telnum4,
+       &ContactData::telnum5, &ContactData::telnum6, &ContactData::telnum7, &ContactData::telnum8,
+       &ContactData::telnum9, &ContactData::telnum10};
 
 ContactData::ContactData(int contactId, Contact_Type contactType, const QString &contactName,
                          const QString &pictureFile, //
@@ -65,10 +60,10 @@ void ContactData::setEmails(const QStringList &emails)
         this->*Emails[slot] = emails.value(slot);
 }
 
-const QString &ContactData::number(int slot) const
+const QString &ContactData::noNumber()
 {
     static const QString none;
-    return isSlot(slot) ? this->*Numbers[slot] : none;
+    return none;
 }
 
 ContactData::Telnum_Type ContactData::numberType(int slot) const
@@ -80,7 +75,7 @@ void ContactData::setNumber(int slot, const QString &number, Telnum_Type numberT
 {
     if (!isSlot(slot))
         return;
-    this->*Numbers[slot] = number;
+    this->*s_numbers[slot] = number;
     this->*Types[slot] = numberType;
 }
 
@@ -108,7 +103,8 @@ QString ContactData::bareNumber(const QString &number)
 bool ContactData::operator==(const ContactData &other) const
 {
     const auto same = [&](auto field) { return this->*field == other.*field; };
-    const auto allSame = [&](const auto &fields) { return std::all_of(fields.begin(), fields.end(), same); };
-    return id == other.id && type == other.type && allSame(Texts) && allSame(Numbers) && allSame(Types)
+    const auto allSame
+        = [&](const auto &fields) { return std::all_of(std::begin(fields), std::end(fields), same); };
+    return id == other.id && type == other.type && allSame(Texts) && allSame(s_numbers) && allSame(Types)
         && allSame(Emails);
 }

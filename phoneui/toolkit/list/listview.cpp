@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QEvent>
 
+#include <algorithm>
 #include <utility>
 
 ListView::ListView(QWidget *parent) : QWidget(parent)
@@ -45,9 +46,7 @@ void ListView::addItems(int count, const std::function<ListViewItem *(int)> &mak
 {
     makeAllItems(); // of rows added so before
     const int first = itemSize();
-    m_items.reserve(first + count);
-    for (int i = 0; i < count; ++i)
-        m_items.append(nullptr);
+    m_items.resize(first + count);
     m_makeItem = [first, make](int idx) { return make(idx - first); };
 }
 
@@ -90,8 +89,8 @@ void ListView::removeItem(int idx)
 
 void ListView::itemClear()
 {
-    while (!m_items.isEmpty())
-        delete m_items.takeLast();
+    const QVector<ListViewItem *> rows = std::exchange(m_items, {});
+    std::for_each(rows.rbegin(), rows.rend(), [](ListViewItem *row) { delete row; });
     m_makeItem = nullptr;
     m_keyPressFlag = false;
 }

@@ -4,9 +4,9 @@
 #include "listviewitem.h"
 
 #include <QColor>
-#include <QList>
 #include <QPixmap>
 #include <QTimer>
+#include <QVector>
 #include <QWidget>
 
 #include <functional>
@@ -238,7 +238,7 @@ private:
 
     void makeAllItems() const;
 
-    mutable QList<ListViewItem *> m_items; ///< null where a row is still to be made
+    mutable QVector<ListViewItem *> m_items; ///< null where a row is still to be made
     std::function<ListViewItem *(int)> m_makeItem; ///< gets the place in the list
     QColor m_lineColor = Qt::black;
     QPixmap m_backgroundPixmap;
