@@ -4,8 +4,6 @@
 #include "phonebench.h"
 #include "plainrows.h"
 
-#include <algorithm>
-
 namespace {
 
 using namespace PhoneBench;
@@ -33,11 +31,7 @@ void sqlite(benchmark::State &state)
     Passes passes(state);
     for (auto _ : state) {
         const Stopwatch watch;
-        std::vector<PlainRows::Record> records;
-        PlainRows::read(home.contactDatabase(), &records);
-        PlainRows::read(home.path("mobile/contacts.db"), &records);
-        std::sort(records.begin(), records.end(),
-                  [](const auto &a, const auto &b) { return a.texts[0] < b.texts[0]; });
+        const std::vector<PlainRows::Record> records = PlainRows::readSorted(home);
         passes.add(watch);
         if (std::int64_t(records.size()) != state.range(0))
             state.SkipWithError("contacts were lost");

@@ -15,7 +15,6 @@
 #include <QPainter>
 #include <QProcess>
 
-#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -89,14 +88,13 @@ private:
 };
 
 /// Loads the library without making anything of it, and shows the first page of the contacts.
-void showLeast(PlainPage *page, const PhoneHome &home, const QString &library)
+bool showLeast(PlainPage *page, const PhoneHome &home, const QString &library)
 {
-    QLibrary(library).load();
-    PlainRows::read(home.contactDatabase(), &page->records);
-    PlainRows::read(home.mobileFolder() + "/contacts.db", &page->records);
-    std::sort(page->records.begin(), page->records.end(),
-              [](const auto &a, const auto &b) { return a.texts[0] < b.texts[0]; });
+    if (!QLibrary(library).load())
+        return false;
+    page->records = PlainRows::readSorted(home);
     showFirstFrame(page);
+    return true;
 }
 
 /// One pass: prints both times and the bytes that came.
@@ -127,7 +125,8 @@ int child(const QString &command, const QString &folder)
         app->start(nullptr, nullptr);
         frame.waitForFrame();
     } else if (command == "floor") {
-        showLeast(&page, home, library);
+        if (!showLeast(&page, home, library))
+            return 1;
     } else {
         showFirstFrame(&dialog);
     }

@@ -162,8 +162,8 @@ double secondsOnCpu()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-constexpr int PassItems
-    = 1000; // at least, so that it takes long beside the half microsecond of asking for the time
+// At least: asking for the time takes half a microsecond itself.
+constexpr int PassItems = 1000;
 
 using Reader = Sum (*)(char *, std::size_t);
 

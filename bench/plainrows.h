@@ -1,8 +1,11 @@
 #ifndef PLAINROWS_H
 #define PLAINROWS_H
 
+#include "phonehome.h"
+
 #include <QString>
 
+#include <algorithm>
 #include <array>
 #include <sqlite3.h>
 #include <string>
@@ -61,6 +64,17 @@ inline void read(const QString &path, std::vector<Record> *records)
     sqlite3_finalize(rows);
     sqlite3_finalize(numbers);
     sqlite3_close(file);
+}
+
+/// The contacts of the phone and of the paired device in the order of their names.
+inline std::vector<Record> readSorted(const PhoneHome &home)
+{
+    std::vector<Record> records;
+    read(home.contactDatabase(), &records);
+    read(home.mobileFolder() + QStringLiteral("/contacts.db"), &records);
+    std::sort(records.begin(), records.end(),
+              [](const Record &a, const Record &b) { return a.texts[0] < b.texts[0]; });
+    return records;
 }
 
 /// Binds texts and numbers one after the other.

@@ -63,9 +63,8 @@ def spaced(number):
     return f"{number:,}".replace(",", " ")
 
 
-def verdict(met, floor_above=False):
-    """Nothing goes below its floor: where that lies above the target, the row can only come near it."""
-    return "met" if met else "floor" if floor_above else "MISSED"
+def verdict(met):
+    return "met" if met else "MISSED"
 
 
 def floor_of(row, sizes, size):
@@ -92,10 +91,12 @@ def growth(sizes, size):
 
 
 def judged_cells(ours, peer, floor, limit):
-    """Wanted, floor and verdict, for times in us."""
-    floor_ratio = floor / peer if floor else 0
-    return [f"at most {limit:.2f}", f"{floor_ratio:.2f}" if floor else "",
-            verdict(ours <= limit * peer, floor_ratio > limit)]
+    """Wanted, floor and verdict, for times in us. Where the floor lies above the target, how near ours comes to it."""
+    wanted, met = f"at most {limit:.2f}", ours <= limit * peer
+    if not floor:
+        return [wanted, "", verdict(met)]
+    out_of_reach = not met and floor > limit * peer
+    return [wanted, f"{floor / peer:.2f}", f"{ours / floor:.2f} of floor" if out_of_reach else verdict(met)]
 
 
 def timed_lines(row, sizes):
@@ -103,7 +104,7 @@ def timed_lines(row, sizes):
     for size in sorted(sizes):
         ours = sizes[size]["ours"]
         what = title.format(spaced(size))
-        peers = sorted((side for side in sizes[size] if side not in {"ours", FLOOR, TOUCH}), key=lambda side: side != judge)
+        peers = sorted(set(sizes[size]) - {"ours", FLOOR, TOUCH}, key=lambda side: (side != judge, side))
         for side in peers or [None]:
             line = [what, duration(ours["us"]), "", "", "", "", "", growth(sizes, size)]
             if side:

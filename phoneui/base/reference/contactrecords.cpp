@@ -71,9 +71,9 @@ bool precedes(std::string_view a, std::string_view b)
 
 }
 
-void ContactRecords::append(int number)
+void ContactRecords::append(const void *bytes, std::size_t size)
 {
-    m_block.append(reinterpret_cast<const char *>(&number), sizeof number);
+    m_block.append(static_cast<const char *>(bytes), int(size));
     m_places.last().end = m_block.size();
 }
 
@@ -86,8 +86,7 @@ void ContactRecords::add(int id)
 void ContactRecords::addText(std::string_view text)
 {
     append(text.data() ? int(text.size()) : -1);
-    m_block.append(text.data(), int(text.size()));
-    m_places.last().end = m_block.size();
+    append(text.data(), text.size());
 }
 
 void ContactRecords::addNumber(int slot, int kind, std::string_view number)

@@ -33,7 +33,8 @@ private:
         int at, end; ///< in the block
     };
 
-    void append(int number);
+    void append(const void *bytes, std::size_t size);
+    void append(int number) { append(&number, sizeof number); }
     std::string_view name(const Place &place) const;
 
     QByteArray m_block;
